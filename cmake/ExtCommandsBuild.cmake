@@ -1,0 +1,53 @@
+# Shared build settings: output layout, sanitizers and helpers for modules and tests.
+
+# Everything runs from one folder, the way the host is installed: the program, its kernel
+# libraries, the modules, the companion libraries and the "messages" tree side by side.
+set(EC_STAGE_DIR "${CMAKE_BINARY_DIR}/bin")
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${EC_STAGE_DIR}")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${EC_STAGE_DIR}")
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
+set(CMAKE_BUILD_RPATH "$ORIGIN")
+
+# The platform's module file suffix: "NAME.tx" is what the dynamic linker looks for.
+set(EC_MODULE_SUFFIX ".tx")
+
+if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+    add_compile_options(-Wall -Wextra -Wno-unused-parameter)
+endif()
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # A GNU-unique symbol pins a shared object in memory for good; modules must unload.
+    add_compile_options(-fno-gnu-unique)
+endif()
+
+option(EXTCOMMANDS_SANITIZE "Build with AddressSanitizer, UndefinedBehaviorSanitizer and LeakSanitizer" OFF)
+if(EXTCOMMANDS_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
+    add_link_options(-fsanitize=address,undefined)
+    add_compile_definitions(EXTCOMMANDS_SANITIZE=1)
+endif()
+
+# ec_add_platform_module(<target> <sources>...)
+# A module that the platform's dynamic linker loads by name: "<target>.tx" in the stage folder.
+function(ec_add_platform_module target)
+    add_library(${target} SHARED ${ARGN})
+    set_target_properties(${target} PROPERTIES PREFIX "" SUFFIX "${EC_MODULE_SUFFIX}")
+    target_link_libraries(${target} PRIVATE TD_Root)
+endfunction()
+
+# ec_add_executable(<target> <sources>...): a program of this project; in the sanitizer build
+# it carries the runtime's default options and the leak suppressions.
+function(ec_add_executable target)
+    add_executable(${target} ${ARGN})
+    if(EXTCOMMANDS_SANITIZE)
+        target_link_libraries(${target} PRIVATE SanitizerDefaults)
+    endif()
+endfunction()
+
+if(EXTCOMMANDS_SANITIZE)
+    file(READ "${PROJECT_SOURCE_DIR}/tests/lsan.supp" EC_LSAN_SUPPRESSIONS)
+    configure_file("${CMAKE_CURRENT_LIST_DIR}/sanitizer/SanitizerDefaults.cpp.in"
+                   "${CMAKE_BINARY_DIR}/generated/SanitizerDefaults.cpp" @ONLY)
+    add_library(SanitizerDefaults OBJECT "${CMAKE_BINARY_DIR}/generated/SanitizerDefaults.cpp")
+    set_target_properties(SanitizerDefaults PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+endif()

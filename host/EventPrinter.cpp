@@ -1,0 +1,63 @@
+#include "EventPrinter.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+
+namespace {
+QByteArray compactJson(const QJsonValue& value)
+{
+    // QJsonDocument writes only arrays and objects: wrap the value and take it out again.
+    const QByteArray wrapped = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+    return wrapped.mid(1, wrapped.size() - 2);
+}
+
+QByteArray readableValue(const QJsonValue& value)
+{
+    if (value.isObject())
+        return QJsonDocument(value.toObject()).toJson(QJsonDocument::Indented).trimmed();
+    if (value.isString()) {
+        static const QRegularExpression plain(QStringLiteral("^[^\\s\"=]+$"));
+        const QString text = value.toString();
+        return plain.match(text).hasMatch() ? text.toUtf8() : compactJson(value);
+    }
+    return compactJson(value);
+}
+} // namespace
+
+EventPrinter::EventPrinter(bool json, std::FILE* output) : m_json(json), m_output(output) {}
+
+void EventPrinter::hostEvent(const QString& name, const OdEventFields& fields)
+{
+    write(m_json ? jsonLine(name, fields) : readableLine(name, fields));
+}
+
+void EventPrinter::note(const QString& text)
+{
+    if (!m_json)
+        write(text.toUtf8());
+}
+
+QByteArray EventPrinter::jsonLine(const QString& name, const OdEventFields& fields)
+{
+    QByteArray line = "{\"event\":" + compactJson(name);
+    for (const auto& field : fields)
+        line += ',' + compactJson(field.first) + ':' + compactJson(field.second);
+    return line + '}';
+}
+
+QByteArray EventPrinter::readableLine(const QString& name, const OdEventFields& fields)
+{
+    QByteArray line = name.toUtf8();
+    for (const auto& field : fields)
+        line += ' ' + field.first.toUtf8() + '=' + readableValue(field.second);
+    return line;
+}
+
+void EventPrinter::write(const QByteArray& line)
+{
+    std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), m_output);
+    std::fputc('\n', m_output);
+    std::fflush(m_output);
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <OdEventSink.h>
+
+#include <cstdio>
+
+// Writes every event to standard output as it happens: one JSON object per line, or a
+// readable line. Output is flushed per event, so a reader sees each one at once.
+class EventPrinter : public OdEventSink
+{
+public:
+    EventPrinter(bool json, std::FILE* output);
+
+    void hostEvent(const QString& name, const OdEventFields& fields) override;
+    // A line that is not an event (the statement being run, in readable mode only).
+    void note(const QString& text);
+
+    static QByteArray jsonLine(const QString& name, const OdEventFields& fields);
+    static QByteArray readableLine(const QString& name, const OdEventFields& fields);
+
+private:
+    void write(const QByteArray& line);
+
+    bool m_json;
+    std::FILE* m_output;
+};

@@ -1,0 +1,83 @@
+#include "HostOptions.h"
+
+#include "HostError.h"
+
+#include <QCommandLineParser>
+
+namespace {
+int parseInteger(const QString& text, const QString& option)
+{
+    bool ok = false;
+    const int value = text.toInt(&ok);
+    if (!ok)
+        throw HostError(QStringLiteral("--%1 takes a whole number, not '%2'").arg(option, text));
+    return value;
+}
+
+void parseProductVersion(const QString& text, int (&version)[4])
+{
+    const QStringList parts = text.split(QLatin1Char('.'));
+    if (parts.size() != 4)
+        throw HostError(
+            QStringLiteral("--product-version takes four numbers A.B.C.D, not '%1'").arg(text));
+    for (int i = 0; i < 4; ++i)
+        version[i] = parseInteger(parts[i], QStringLiteral("product-version"));
+}
+
+void defineOptions(QCommandLineParser& parser)
+{
+    parser.setApplicationDescription(
+        QStringLiteral("The reference Quillon host: loads modules, runs a script of host actions "
+                       "and command lines, and prints every observable effect as an event."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOptions({
+        {QStringLiteral("module"), QStringLiteral("Load this module at start (repeatable)."), QStringLiteral("NAME")},
+        {QStringLiteral("no-module"), QStringLiteral("Load no module at start.")},
+        {QStringLiteral("module-path"), QStringLiteral("Look for modules in DIR (repeatable; default: beside the program)."), QStringLiteral("DIR")},
+        {QStringLiteral("companion-path"), QStringLiteral("Look for companion libraries in DIR (default: beside the program)."), QStringLiteral("DIR")},
+        {QStringLiteral("language"), QStringLiteral("The host's user-interface language id (0 System, 1 German, 2 English, ...)."), QStringLiteral("ID"), QStringLiteral("2")},
+        {QStringLiteral("locale"), QStringLiteral("The operating system's locale, as Qt names it (de_DE, zh_TW, C)."), QStringLiteral("NAME")},
+        {QStringLiteral("product-version"), QStringLiteral("The host's product version."), QStringLiteral("A.B.C.D"), QStringLiteral("2026.0.1.4120")},
+        {QStringLiteral("c"), QStringLiteral("Run TEXT as the script (statements separated by newlines or ';')."), QStringLiteral("TEXT")},
+        {QStringLiteral("json"), QStringLiteral("Write each event as one JSON object per line.")},
+    });
+    parser.addPositionalArgument(QStringLiteral("SCRIPT"), QStringLiteral("A script file to run."), QStringLiteral("[SCRIPT]"));
+}
+} // namespace
+
+HostOptions HostOptions::parse(const QStringList& arguments, QString& helpText, bool& exitEarly)
+{
+    QCommandLineParser parser;
+    defineOptions(parser);
+    exitEarly = false;
+    if (!parser.parse(QStringList{QStringLiteral("quillon-host")} + arguments))
+        throw HostError(parser.errorText());
+    if (parser.isSet(QStringLiteral("help")) || parser.isSet(QStringLiteral("version"))) {
+        helpText = parser.isSet(QStringLiteral("help")) ? parser.helpText()
+                                                        : QStringLiteral("quillon-host 1.0.0\n");
+        exitEarly = true;
+        return {};
+    }
+    HostOptions options;
+    if (parser.isSet(QStringLiteral("no-module")))
+        options.modules.clear();
+    if (parser.isSet(QStringLiteral("module")))
+        options.modules = parser.values(QStringLiteral("module"));
+    options.modulePath = parser.values(QStringLiteral("module-path"));
+    options.companionPath = parser.value(QStringLiteral("companion-path"));
+    options.languageId = parseInteger(parser.value(QStringLiteral("language")), QStringLiteral("language"));
+    options.locale = parser.value(QStringLiteral("locale"));
+    parseProductVersion(parser.value(QStringLiteral("product-version")), options.productVersion);
+    options.json = parser.isSet(QStringLiteral("json"));
+    if (parser.isSet(QStringLiteral("c")))
+        options.scriptText = parser.value(QStringLiteral("c"));
+    const QStringList positional = parser.positionalArguments();
+    if (positional.size() > 1)
+        throw HostError(QStringLiteral("one script at most, not %1").arg(positional.join(QLatin1Char(' '))));
+    if (!positional.isEmpty() && options.scriptText)
+        throw HostError(QStringLiteral("give either a script file or -c TEXT, not both"));
+    if (!positional.isEmpty())
+        options.scriptFile = positional.first();
+    return options;
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+// What quillon-host was asked to do, from its command line.
+struct HostOptions
+{
+    QStringList modules{QStringLiteral("ExtCommands")};
+    QStringList modulePath;
+    QString companionPath;
+    int languageId = 2;
+    QString locale;
+    int productVersion[4] = {2026, 0, 1, 4120};
+    bool json = false;
+    // The script: a file, or text given with -c. Neither: the window, or the demo session.
+    QString scriptFile;
+    std::optional<QString> scriptText;
+
+    // Parses the arguments (without the program name). Throws HostError for bad ones; sets
+    // `helpText` and returns false for --help / --version.
+    static HostOptions parse(const QStringList& arguments, QString& helpText, bool& exitEarly);
+};

@@ -1,0 +1,166 @@
+#include "HostSession.h"
+
+#include "HostError.h"
+
+#include <CFxCommandContext.h>
+#include <CFxSystemServices.h>
+#include <OdEdCommandStack.h>
+#include <OdError.h>
+#include <OdEventLog.h>
+#include <OdRxDynamicLinker.h>
+#include <OdStaticRxObject.h>
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QMainWindow>
+#include <QTimer>
+
+namespace {
+OdString toOd(const QString& text)
+{
+    return OdString(text.toStdWString());
+}
+
+QString toQt(const OdString& text)
+{
+    return QString::fromStdWString(text.wide());
+}
+} // namespace
+
+HostSession::HostSession(const HostOptions& options) : m_options(options) {}
+
+HostSession::~HostSession() = default;
+
+QString HostSession::programFolder()
+{
+    return QCoreApplication::applicationDirPath();
+}
+
+void HostSession::start()
+{
+    CFxSystemServices* services = GetFxSystemServices();
+    const int* version = m_options.productVersion;
+    services->SetProductVersion(version[0], version[1], version[2], version[3]);
+    services->SetCurrentLanguageId(m_options.languageId);
+    services->SetCompanionFolder(m_options.companionPath.isEmpty()
+                                     ? programFolder()
+                                     : QFileInfo(m_options.companionPath).absoluteFilePath());
+    std::vector<OdString> searchPath;
+    for (const QString& folder : m_options.modulePath)
+        searchPath.push_back(toOd(QFileInfo(folder).absoluteFilePath()));
+    if (searchPath.empty())
+        searchPath.push_back(toOd(programFolder()));
+    odrxDynamicLinker()->setSearchPath(searchPath);
+    for (const QString& module : m_options.modules)
+        loadModule(module);
+}
+
+void HostSession::shutdown()
+{
+    if (m_mainFrame)
+        destroyMainFrame();
+    odrxDynamicLinker()->unloadAll();
+}
+
+void HostSession::createMainFrame()
+{
+    // The host tells its reactors of every creation request; a second one without a destroy
+    // reaches them again, with the same window.
+    if (!m_mainFrame) {
+        m_mainFrame = std::make_unique<QMainWindow>();
+        m_mainFrame->setWindowTitle(QStringLiteral("Quillon"));
+    }
+    GetFxSystemServices()->MainFrameCreated(m_mainFrame.get());
+}
+
+void HostSession::destroyMainFrame()
+{
+    if (!m_mainFrame)
+        throw HostError(QStringLiteral("there is no main window to destroy"));
+    GetFxSystemServices()->MainFrameDestroyed(m_mainFrame.get());
+    m_mainFrame.reset();
+}
+
+void HostSession::loadModule(const QString& name)
+{
+    try {
+        odrxDynamicLinker()->loadModule(toOd(name), false);
+    } catch (const OdError& error) {
+        throw HostError(toQt(error.description()));
+    }
+}
+
+void HostSession::unloadModule(const QString& name)
+{
+    if (odrxDynamicLinker()->getModule(toOd(name)).isNull())
+        throw HostError(QStringLiteral("module %1 is not loaded").arg(name));
+    odrxDynamicLinker()->unloadModule(toOd(name));
+}
+
+void HostSession::openDocument(const QString& path)
+{
+    const QFileInfo file(path);
+    if (!file.isFile())
+        throw HostError(QStringLiteral("cannot open %1: no such file").arg(path));
+    GetFxSystemServices()->GetDocumentManager()->OpenDocument(file.absoluteFilePath());
+}
+
+void HostSession::activateDocument(int index)
+{
+    if (!GetFxSystemServices()->GetDocumentManager()->ActivateDocument(index))
+        throw HostError(QStringLiteral("there is no open document %1").arg(index));
+}
+
+void HostSession::closeDocument(int index)
+{
+    if (!GetFxSystemServices()->GetDocumentManager()->CloseDocument(index))
+        throw HostError(QStringLiteral("there is no open document %1").arg(index));
+}
+
+void HostSession::runCommandLine(const QString& name, const QStringList& answers)
+{
+    OdStaticRxObject<CFxCommandContext> context(answers, nullptr);
+    bool found = false;
+    try {
+        found = odedRegCmds()->executeCommand(toOd(name), &context);
+    } catch (const OdError& error) {
+        throw HostError(QStringLiteral("command %1: %2").arg(name, toQt(error.description())));
+    }
+    if (!found) {
+        OdEventLog::report(QStringLiteral("unknown-command"), {{QStringLiteral("name"), name}});
+        return;
+    }
+    const std::optional<int> result = context.result();
+    OdEventLog::report(QStringLiteral("command-ended"),
+                       {{QStringLiteral("name"), name},
+                        {QStringLiteral("result"), result ? QJsonValue(*result) : QJsonValue()}});
+}
+
+void HostSession::reportUi()
+{
+    OdEventLog::report(QStringLiteral("ui"), {{QStringLiteral("model"), QJsonObject()}});
+}
+
+void HostSession::reportCommands()
+{
+    QJsonArray names;
+    for (const OdEdCommand* command : odedRegCmds()->commands())
+        names.append(toQt(command->localName()));
+    OdEventLog::report(QStringLiteral("commands"), {{QStringLiteral("names"), names}});
+}
+
+void HostSession::waitEvents()
+{
+    QEventLoop loop;
+    QTimer::singleShot(100, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+void HostSession::settle()
+{
+    QCoreApplication::sendPostedEvents();
+    odrxDynamicLinker()->unloadUnreferenced();
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "ScriptStatement.h"
+
+#include <QDir>
+#include <QString>
+
+class EventPrinter;
+class HostSession;
+
+// Runs a host script statement by statement. Relative paths in a script are taken from
+// `baseFolder` (the script file's folder). The first statement that cannot be carried out
+// ends the run with an error event.
+class ScriptRunner
+{
+public:
+    ScriptRunner(HostSession& session, EventPrinter& printer);
+
+    // Returns false when the script could not be run to its end.
+    bool run(const QString& script, const QDir& baseFolder);
+
+private:
+    void execute(const ScriptStatement& statement, const QDir& baseFolder);
+    static int documentNumber(const ScriptStatement& statement);
+    static void expectWords(const ScriptStatement& statement, int count, const char* usage);
+
+    HostSession& m_session;
+    EventPrinter& m_printer;
+};

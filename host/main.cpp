@@ -1,0 +1,88 @@
+// quillon-host: the reference Quillon host program.
+#include "EventPrinter.h"
+#include "HostError.h"
+#include "HostOptions.h"
+#include "HostSession.h"
+#include "ScriptRunner.h"
+
+#include <OdEventLog.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cstdio>
+
+namespace {
+// The operating system's locale, as QLocale::system() will read it.
+void applySystemLocale(const QString& name)
+{
+    if (name.isEmpty())
+        return;
+    const QByteArray value = (name == QLatin1String("C") ? QStringLiteral("C") : name).toLatin1() + ".UTF-8";
+    qputenv("LC_ALL", value);
+    qputenv("LANG", value);
+    qunsetenv("LANGUAGE");
+}
+
+QString readScript(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        throw HostError(QStringLiteral("cannot read script %1: %2").arg(path, file.errorString()));
+    return QString::fromUtf8(file.readAll());
+}
+
+int runSession(const HostOptions& options, EventPrinter& printer)
+{
+    HostSession session(options);
+    ScriptRunner runner(session, printer);
+    bool ok = false;
+    try {
+        session.start();
+        if (options.scriptText)
+            ok = runner.run(*options.scriptText, QDir::current());
+        else if (!options.scriptFile.isEmpty())
+            ok = runner.run(readScript(options.scriptFile), QFileInfo(options.scriptFile).absoluteDir());
+        else
+            ok = runner.run(readScript(QStringLiteral(":/demo/demo.qs")),
+                            QDir(HostSession::programFolder() + QStringLiteral("/demo")));
+    } catch (const HostError& error) {
+        OdEventLog::report(QStringLiteral("error"), {{QStringLiteral("message"), error.message()}});
+        std::fprintf(stderr, "quillon-host: %s\n", qUtf8Printable(error.message()));
+    }
+    session.shutdown();
+    return ok ? 0 : 1;
+}
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    HostOptions options;
+    try {
+        QString helpText;
+        bool exitEarly = false;
+        options = HostOptions::parse(arguments, helpText, exitEarly);
+        if (exitEarly) {
+            std::fputs(qUtf8Printable(helpText), stdout);
+            return 0;
+        }
+    } catch (const HostError& error) {
+        std::fprintf(stderr, "quillon-host: %s\nTry 'quillon-host --help'.\n", qUtf8Printable(error.message()));
+        return 2;
+    }
+    applySystemLocale(options.locale);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Quillon"));
+    QApplication::setOrganizationName(QStringLiteral("Corvane"));
+    EventPrinter printer(options.json, stdout);
+    OdEventLog::setSink(&printer);
+    const int exitCode = runSession(options, printer);
+    OdEventLog::setSink(nullptr);
+    return exitCode;
+}

@@ -1,0 +1,36 @@
+#include "CFxCommandLineIO.h"
+
+#include <OdError.h>
+#include <OdEventLog.h>
+
+#include <utility>
+
+CFxCommandLineIO::CFxCommandLineIO(QStringList answers) : m_answers(std::move(answers)) {}
+
+CFxCommandLineIO::~CFxCommandLineIO() = default;
+
+OdString CFxCommandLineIO::getString(const OdString&, const OdString& defaultValue)
+{
+    if (m_answers.isEmpty())
+        return defaultValue;
+    const QString answer = m_answers.takeFirst();
+    return answer.isEmpty() ? defaultValue : OdString(answer.toStdWString());
+}
+
+int CFxCommandLineIO::getInt(const OdString& prompt, int defaultValue)
+{
+    const QString answer = QString::fromStdWString(getString(prompt).wide());
+    if (answer.isEmpty())
+        return defaultValue;
+    bool ok = false;
+    const int value = answer.toInt(&ok);
+    if (!ok)
+        throw OdError(OdString(QStringLiteral("'%1' is not a whole number").arg(answer).toStdWString()));
+    return value;
+}
+
+void CFxCommandLineIO::putString(const OdString& text)
+{
+    OdEventLog::report(QStringLiteral("command-output"),
+                       {{QStringLiteral("text"), QString::fromStdWString(text.wide())}});
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "FxKernelExport.h"
+
+#include <OdString.h>
+
+#include <QString>
+
+#include <string>
+
+// The host's wide-character string; host identifiers and texts pass as CFxString.
+class FX_KERNEL_EXPORT CFxString
+{
+public:
+    CFxString() = default;
+    CFxString(const wchar_t* text);
+    CFxString(const char* utf8);
+    CFxString(const QString& text);
+    CFxString(const OdString& text);
+
+    QString toQString() const;
+    OdString toOdString() const;
+    const wchar_t* c_str() const { return m_text.c_str(); }
+    bool isEmpty() const { return m_text.empty(); }
+    int length() const { return static_cast<int>(m_text.size()); }
+
+    // Equal without regard to letter case.
+    bool equalNoCase(const CFxString& other) const;
+    // Exact comparison: negative, zero or positive, as std::wstring::compare.
+    int compare(const CFxString& other) const;
+
+    CFxString& operator+=(const CFxString& other);
+    friend CFxString operator+(CFxString left, const CFxString& right) { return left += right; }
+    friend bool operator==(const CFxString& a, const CFxString& b) { return a.m_text == b.m_text; }
+    friend bool operator!=(const CFxString& a, const CFxString& b) { return a.m_text != b.m_text; }
+
+private:
+    std::wstring m_text;
+};

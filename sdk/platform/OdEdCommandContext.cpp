@@ -1,0 +1,3 @@
+#include "OdEdCommandContext.h"
+
+OdEdCommandContext::~OdEdCommandContext() = default;

@@ -1,0 +1,119 @@
+#include "OdEdCommandStack.h"
+
+#include "OdEditor.h"
+#include "OdError.h"
+#include "OdEventLog.h"
+
+#include <QString>
+
+#include <algorithm>
+
+namespace {
+QString toQt(const OdString& text)
+{
+    return QString::fromStdWString(text.wide());
+}
+
+void reportCommandEvent(const char* event, const OdEdCommand* command)
+{
+    OdEventLog::report(QString::fromLatin1(event),
+                       {{QStringLiteral("name"), toQt(command->globalName())},
+                        {QStringLiteral("local"), toQt(command->localName())}});
+}
+
+bool sameName(const OdString& a, const OdString& b)
+{
+    return a.iCompare(b) == 0;
+}
+
+bool matches(const OdEdCommand* command, const OdString& name, int flags)
+{
+    if ((flags & OdEdCommandStack::kGlobal) && sameName(command->globalName(), name))
+        return true;
+    return (flags & OdEdCommandStack::kLocal) && !command->isUndefined() &&
+           sameName(command->localName(), name);
+}
+} // namespace
+
+OdEdCommandStack::OdEdCommandStack() = default;
+
+OdEdCommandStack::~OdEdCommandStack() = default;
+
+void OdEdCommandStack::addCommand(OdEdCommand* command)
+{
+    if (!command)
+        return;
+    if (lookupCmd(command->globalName(), kGlobal, command->groupName()))
+        throw OdError(OdString(L"duplicate command ") + command->globalName() +
+                      OdString(L" in group ") + command->groupName());
+    command->addRef();
+    m_commands.push_back(command);
+    reportCommandEvent("command-added", command);
+    const auto reactors = m_reactors;
+    for (OdEdCommandStackReactor* reactor : reactors)
+        reactor->commandAdded(command);
+}
+
+void OdEdCommandStack::removeCmd(OdEdCommand* command)
+{
+    const auto at = std::find(m_commands.begin(), m_commands.end(), command);
+    if (at == m_commands.end())
+        return;
+    const auto reactors = m_reactors;
+    for (OdEdCommandStackReactor* reactor : reactors)
+        reactor->commandWillBeRemoved(command);
+    m_commands.erase(std::find(m_commands.begin(), m_commands.end(), command));
+    reportCommandEvent("command-removed", command);
+    command->release();
+}
+
+void OdEdCommandStack::removeCmd(const OdString& groupName, const OdString& globalName)
+{
+    removeCmd(lookupCmd(globalName, kGlobal, groupName));
+}
+
+OdEdCommand* OdEdCommandStack::lookupCmd(const OdString& name, int flags,
+                                         const OdString& groupName) const
+{
+    for (OdEdCommand* command : m_commands) {
+        if (!groupName.isEmpty() && !sameName(command->groupName(), groupName))
+            continue;
+        if (matches(command, name, flags))
+            return command;
+    }
+    return nullptr;
+}
+
+std::vector<OdEdCommand*> OdEdCommandStack::commands() const
+{
+    return m_commands;
+}
+
+bool OdEdCommandStack::executeCommand(const OdString& name, OdEdCommandContext* context)
+{
+    OdEdCommand* command = lookupCmd(name);
+    if (!command)
+        return false;
+    const OdString globalName = command->globalName();
+    odedEditor()->notify([&](OdEditorReactor* reactor) { reactor->commandWillStart(globalName); });
+    command->execute(context);
+    odedEditor()->notify([&](OdEditorReactor* reactor) { reactor->commandEnded(globalName); });
+    return true;
+}
+
+void OdEdCommandStack::addReactor(OdEdCommandStackReactor* reactor)
+{
+    if (reactor && std::find(m_reactors.begin(), m_reactors.end(), reactor) == m_reactors.end())
+        m_reactors.push_back(reactor);
+}
+
+void OdEdCommandStack::removeReactor(OdEdCommandStackReactor* reactor)
+{
+    m_reactors.erase(std::remove(m_reactors.begin(), m_reactors.end(), reactor), m_reactors.end());
+}
+
+OdEdCommandStack* odedRegCmds()
+{
+    static OdEdCommandStack stack;
+    return &stack;
+}

@@ -1,0 +1,3 @@
+#include "OdEdUserIO.h"
+
+OdEdUserIO::~OdEdUserIO() = default;

@@ -1,0 +1,3 @@
+#include "OdRxEventReactor.h"
+
+OdRxEventReactor::~OdRxEventReactor() = default;

@@ -1,0 +1,5 @@
+#include "OdRxModule.h"
+
+OdRxModule::OdRxModule() = default;
+
+OdRxModule::~OdRxModule() = default;

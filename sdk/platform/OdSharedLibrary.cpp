@@ -1,0 +1,112 @@
+#include "OdSharedLibrary.h"
+
+#include <QFileInfo>
+#include <QString>
+
+#if defined(_WIN32)
+#include <windows.h>
+#else
+#include <dlfcn.h>
+#include <link.h>
+#endif
+
+namespace {
+QString toQt(const OdString& text)
+{
+    return QString::fromStdWString(text.wide());
+}
+
+OdString fromQt(const QString& text)
+{
+    return OdString(text.toStdWString());
+}
+} // namespace
+
+#if defined(_WIN32)
+
+OdModuleHandle OdSharedLibrary::open(const OdString& path, OdString& error)
+{
+    HMODULE library = ::LoadLibraryW(path.c_str());
+    if (!library)
+        error = fromQt(QStringLiteral("LoadLibrary failed with error %1").arg(::GetLastError()));
+    return library;
+}
+
+void* OdSharedLibrary::resolve(OdModuleHandle library, const char* symbol)
+{
+    return reinterpret_cast<void*>(::GetProcAddress(library, symbol));
+}
+
+void OdSharedLibrary::close(OdModuleHandle library)
+{
+    ::FreeLibrary(library);
+}
+
+OdString OdSharedLibrary::fileName(OdModuleHandle library)
+{
+    wchar_t buffer[MAX_PATH] = {};
+    ::GetModuleFileNameW(library, buffer, MAX_PATH);
+    return OdString(buffer);
+}
+
+bool OdSharedLibrary::isLoaded(const OdString& path)
+{
+    return ::GetModuleHandleW(path.c_str()) != nullptr;
+}
+
+OdString OdSharedLibrary::fileContaining(const void* address)
+{
+    HMODULE library = nullptr;
+    const DWORD flags =
+        GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT;
+    if (!::GetModuleHandleExW(flags, static_cast<LPCWSTR>(address), &library))
+        return OdString();
+    return fileName(library);
+}
+
+#else
+
+OdModuleHandle OdSharedLibrary::open(const OdString& path, OdString& error)
+{
+    void* library = ::dlopen(toQt(path).toLocal8Bit().constData(), RTLD_NOW | RTLD_LOCAL);
+    if (!library)
+        error = fromQt(QString::fromLocal8Bit(::dlerror()));
+    return library;
+}
+
+void* OdSharedLibrary::resolve(OdModuleHandle library, const char* symbol)
+{
+    return ::dlsym(library, symbol);
+}
+
+void OdSharedLibrary::close(OdModuleHandle library)
+{
+    ::dlclose(library);
+}
+
+OdString OdSharedLibrary::fileName(OdModuleHandle library)
+{
+    link_map* map = nullptr;
+    if (!library || ::dlinfo(library, RTLD_DI_LINKMAP, &map) != 0 || !map)
+        return OdString();
+    return fromQt(QFileInfo(QString::fromLocal8Bit(map->l_name)).absoluteFilePath());
+}
+
+bool OdSharedLibrary::isLoaded(const OdString& path)
+{
+    void* library = ::dlopen(toQt(path).toLocal8Bit().constData(), RTLD_NOW | RTLD_NOLOAD);
+    if (!library)
+        return false;
+    ::dlclose(library);
+    return true;
+}
+
+OdString OdSharedLibrary::fileContaining(const void* address)
+{
+    Dl_info info{};
+    if (!::dladdr(address, &info) || !info.dli_fname)
+        return OdString();
+    return fromQt(QFileInfo(QString::fromLocal8Bit(info.dli_fname)).absoluteFilePath());
+}
+
+#endif

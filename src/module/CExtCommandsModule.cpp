@@ -1,0 +1,45 @@
+#include "CExtCommandsModule.h"
+
+#include "CrashReportVersionRule.h"
+#include "CurrentVersion.h"
+
+#include <CFxSystemServices.h>
+#include <OdEdCommandStack.h>
+#include <OdEditor.h>
+#include <TarnCrashReportSendService.h>
+
+CExtCommandsModule::CExtCommandsModule() : crashReactor(nullptr) {}
+
+CExtCommandsModule::~CExtCommandsModule() = default;
+
+void CExtCommandsModule::initApp()
+{
+    odedEditor()->addReactor(&m_editorReactor);
+    odedRegCmds()->addCommand(&m_homeCommand);
+    odedRegCmds()->addCommand(&m_communityCommand);
+    odedRegCmds()->addCommand(&m_viewcastCommand);
+    if (!crashReactor)
+        createCrashReactor();
+}
+
+void CExtCommandsModule::createCrashReactor()
+{
+    const QString current = currentVersionString();
+    TarnCrashReportSendService service;
+    QString stored;
+    const bool recorded = service.getRegVersion(stored);
+    crashReactor = new TarnCrashReportEditorReactor(crashReportInstallCheck(recorded, stored, current));
+    GetFxSystemServices()->GetDocumentManager()->AddReactor(crashReactor);
+}
+
+void CExtCommandsModule::uninitApp()
+{
+    odedEditor()->removeReactor(&m_editorReactor);
+    // Removed in the order in which they were added.
+    odedRegCmds()->removeCmd(&m_homeCommand);
+    odedRegCmds()->removeCmd(&m_communityCommand);
+    odedRegCmds()->removeCmd(&m_viewcastCommand);
+    // Not detached first: it has normally detached itself at the first document activation.
+    // The module object goes right after this, so the pointer is left as it is.
+    delete crashReactor;
+}

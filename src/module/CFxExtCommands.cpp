@@ -1,0 +1,5 @@
+#include "CFxExtCommands.h"
+
+CFxExtCommands::CFxExtCommands() = default;
+
+CFxExtCommands::~CFxExtCommands() = default;

@@ -1,0 +1,16 @@
+#include "CFxHomeCommand.h"
+
+const OdString CFxHomeCommand::globalName() const
+{
+    return OdString(L"_Home");
+}
+
+const OdString CFxHomeCommand::localName() const
+{
+    return OdString(L"Home");
+}
+
+int CFxHomeCommand::runCommand(OdEdCommandContext*)
+{
+    return RTNORM;
+}

@@ -1,0 +1,60 @@
+#include "HostProcess.h"
+
+#include <QJsonDocument>
+#include <QProcess>
+
+HostProcess::HostProcess()
+    : m_folders(m_temporary.path()), m_environment(QProcessEnvironment::systemEnvironment())
+{
+    for (const auto& variable : m_folders.variables())
+        m_environment.insert(variable.first, variable.second);
+    m_environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    // No session bus unless a test starts one of its own.
+    m_environment.remove(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"));
+}
+
+void HostProcess::setEnvironment(const QString& name, const QString& value)
+{
+    m_environment.insert(name, value);
+}
+
+QString HostProcess::stageFolder()
+{
+    return QStringLiteral(EC_STAGE_DIR);
+}
+
+QString HostProcess::program()
+{
+    return stageFolder() + QStringLiteral("/quillon-host");
+}
+
+HostResult HostProcess::run(const QStringList& arguments, int timeoutMs)
+{
+    QProcess process;
+    process.setProcessEnvironment(m_environment);
+    process.setWorkingDirectory(home());
+    process.start(program(), QStringList{QStringLiteral("--json")} + arguments);
+    HostResult result;
+    if (!process.waitForFinished(timeoutMs)) {
+        process.kill();
+        process.waitForFinished();
+        result.standardError = QStringLiteral("quillon-host did not finish in time");
+        return result;
+    }
+    result.exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    result.standardError = QString::fromUtf8(process.readAllStandardError());
+    for (const QByteArray& line : process.readAllStandardOutput().split('\n')) {
+        if (line.trimmed().isEmpty())
+            continue;
+        QJsonObject fields = QJsonDocument::fromJson(line).object();
+        const QString name = fields.take(QStringLiteral("event")).toString();
+        result.events.append({name.isEmpty() ? QStringLiteral("<not json: %1>").arg(QString::fromUtf8(line)) : name,
+                              fields});
+    }
+    return result;
+}
+
+HostResult HostProcess::runScript(const QString& script, const QStringList& arguments)
+{
+    return run(arguments + QStringList{QStringLiteral("-c"), script});
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "HomeFolders.h"
+#include "RecordedEvents.h"
+
+#include <QProcessEnvironment>
+#include <QStringList>
+#include <QTemporaryDir>
+
+// What one run of quillon-host did.
+struct HostResult
+{
+    int exitCode = -1;
+    RecordedEvents events;
+    QString standardError;
+};
+
+// Runs quillon-host from the build's stage folder with --json, in a home of its own, and
+// reads its events.
+class HostProcess
+{
+public:
+    HostProcess();
+
+    const HomeFolders& folders() const { return m_folders; }
+    QString home() const { return m_folders.root(); }
+    void setEnvironment(const QString& name, const QString& value);
+
+    HostResult run(const QStringList& arguments, int timeoutMs = 60000);
+    HostResult runScript(const QString& script, const QStringList& arguments = {});
+
+    static QString stageFolder();
+    static QString program();
+
+private:
+    QTemporaryDir m_temporary;
+    HomeFolders m_folders;
+    QProcessEnvironment m_environment;
+};

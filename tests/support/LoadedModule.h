@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+
+class OdRxModule;
+
+// A module loaded through the platform's dynamic linker for the length of a test, from the
+// build's stage folder (modules and companion libraries as installed beside the program).
+class LoadedModule
+{
+public:
+    explicit LoadedModule(const QString& name = QStringLiteral("ExtCommands"));
+    ~LoadedModule();
+    LoadedModule(const LoadedModule&) = delete;
+    LoadedModule& operator=(const LoadedModule&) = delete;
+
+    OdRxModule* module() const { return m_module; }
+    QString path() const;
+    // Unloads now (also done on destruction); returns whether the linker unloaded it.
+    bool unload();
+
+    // Points the dynamic linker and the companion folder at `folder` (default: the stage).
+    static void useFolder(const QString& folder = QString());
+    static QString stageFolder();
+
+private:
+    QString m_name;
+    QString m_path;
+    OdRxModule* m_module = nullptr;
+};
