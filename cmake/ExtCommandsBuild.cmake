@@ -46,6 +46,8 @@ endfunction()
 
 if(EXTCOMMANDS_SANITIZE)
     file(READ "${PROJECT_SOURCE_DIR}/tests/lsan.supp" EC_LSAN_SUPPRESSIONS)
+    set_property(DIRECTORY "${PROJECT_SOURCE_DIR}" APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
+                 "${PROJECT_SOURCE_DIR}/tests/lsan.supp")
     configure_file("${CMAKE_CURRENT_LIST_DIR}/sanitizer/SanitizerDefaults.cpp.in"
                    "${CMAKE_BINARY_DIR}/generated/SanitizerDefaults.cpp" @ONLY)
     add_library(SanitizerDefaults OBJECT "${CMAKE_BINARY_DIR}/generated/SanitizerDefaults.cpp")

@@ -9,7 +9,9 @@
 class HostError : public std::runtime_error
 {
 public:
-    explicit HostError(const QString& message) : std::runtime_error(message.toStdString()), m_message(message) {}
+    explicit HostError(const QString& message)
+        : std::runtime_error(message.toStdString()), m_message(message)
+    {}
 
     QString message() const { return m_message; }
 

@@ -32,17 +32,31 @@ void defineOptions(QCommandLineParser& parser)
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOptions({
-        {QStringLiteral("module"), QStringLiteral("Load this module at start (repeatable)."), QStringLiteral("NAME")},
+        {QStringLiteral("module"), QStringLiteral("Load this module at start (repeatable)."),
+         QStringLiteral("NAME")},
         {QStringLiteral("no-module"), QStringLiteral("Load no module at start.")},
-        {QStringLiteral("module-path"), QStringLiteral("Look for modules in DIR (repeatable; default: beside the program)."), QStringLiteral("DIR")},
-        {QStringLiteral("companion-path"), QStringLiteral("Look for companion libraries in DIR (default: beside the program)."), QStringLiteral("DIR")},
-        {QStringLiteral("language"), QStringLiteral("The host's user-interface language id (0 System, 1 German, 2 English, ...)."), QStringLiteral("ID"), QStringLiteral("2")},
-        {QStringLiteral("locale"), QStringLiteral("The operating system's locale, as Qt names it (de_DE, zh_TW, C)."), QStringLiteral("NAME")},
-        {QStringLiteral("product-version"), QStringLiteral("The host's product version."), QStringLiteral("A.B.C.D"), QStringLiteral("2026.0.1.4120")},
-        {QStringLiteral("c"), QStringLiteral("Run TEXT as the script (statements separated by newlines or ';')."), QStringLiteral("TEXT")},
+        {QStringLiteral("module-path"),
+         QStringLiteral("Look for modules in DIR (repeatable; default: beside the program)."),
+         QStringLiteral("DIR")},
+        {QStringLiteral("companion-path"),
+         QStringLiteral("Look for companion libraries in DIR (default: beside the program)."),
+         QStringLiteral("DIR")},
+        {QStringLiteral("language"),
+         QStringLiteral(
+             "The host's user-interface language id (0 System, 1 German, 2 English, ...)."),
+         QStringLiteral("ID"), QStringLiteral("2")},
+        {QStringLiteral("locale"),
+         QStringLiteral("The operating system's locale, as Qt names it (de_DE, zh_TW, C)."),
+         QStringLiteral("NAME")},
+        {QStringLiteral("product-version"), QStringLiteral("The host's product version."),
+         QStringLiteral("A.B.C.D"), QStringLiteral("2026.0.1.4120")},
+        {QStringLiteral("c"),
+         QStringLiteral("Run TEXT as the script (statements separated by newlines or ';')."),
+         QStringLiteral("TEXT")},
         {QStringLiteral("json"), QStringLiteral("Write each event as one JSON object per line.")},
     });
-    parser.addPositionalArgument(QStringLiteral("SCRIPT"), QStringLiteral("A script file to run."), QStringLiteral("[SCRIPT]"));
+    parser.addPositionalArgument(QStringLiteral("SCRIPT"), QStringLiteral("A script file to run."),
+                                 QStringLiteral("[SCRIPT]"));
 }
 } // namespace
 
@@ -66,7 +80,8 @@ HostOptions HostOptions::parse(const QStringList& arguments, QString& helpText, 
         options.modules = parser.values(QStringLiteral("module"));
     options.modulePath = parser.values(QStringLiteral("module-path"));
     options.companionPath = parser.value(QStringLiteral("companion-path"));
-    options.languageId = parseInteger(parser.value(QStringLiteral("language")), QStringLiteral("language"));
+    options.languageId =
+        parseInteger(parser.value(QStringLiteral("language")), QStringLiteral("language"));
     options.locale = parser.value(QStringLiteral("locale"));
     parseProductVersion(parser.value(QStringLiteral("product-version")), options.productVersion);
     options.json = parser.isSet(QStringLiteral("json"));
@@ -74,7 +89,8 @@ HostOptions HostOptions::parse(const QStringList& arguments, QString& helpText, 
         options.scriptText = parser.value(QStringLiteral("c"));
     const QStringList positional = parser.positionalArguments();
     if (positional.size() > 1)
-        throw HostError(QStringLiteral("one script at most, not %1").arg(positional.join(QLatin1Char(' '))));
+        throw HostError(
+            QStringLiteral("one script at most, not %1").arg(positional.join(QLatin1Char(' '))));
     if (!positional.isEmpty() && options.scriptText)
         throw HostError(QStringLiteral("give either a script file or -c TEXT, not both"));
     if (!positional.isEmpty())

@@ -2,14 +2,6 @@
 
 #include "HostError.h"
 
-#include <CFxCommandContext.h>
-#include <CFxSystemServices.h>
-#include <OdEdCommandStack.h>
-#include <OdError.h>
-#include <OdEventLog.h>
-#include <OdRxDynamicLinker.h>
-#include <OdStaticRxObject.h>
-
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QFileInfo>
@@ -17,6 +9,14 @@
 #include <QJsonObject>
 #include <QMainWindow>
 #include <QTimer>
+
+#include <CFxCommandContext.h>
+#include <CFxSystemServices.h>
+#include <OdEdCommandStack.h>
+#include <OdError.h>
+#include <OdEventLog.h>
+#include <OdRxDynamicLinker.h>
+#include <OdStaticRxObject.h>
 
 namespace {
 OdString toOd(const QString& text)

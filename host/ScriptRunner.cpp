@@ -11,8 +11,7 @@
 
 ScriptRunner::ScriptRunner(HostSession& session, EventPrinter& printer)
     : m_session(session), m_printer(printer)
-{
-}
+{}
 
 bool ScriptRunner::run(const QString& script, const QDir& baseFolder)
 {
@@ -22,7 +21,9 @@ bool ScriptRunner::run(const QString& script, const QDir& baseFolder)
             try {
                 execute(statement, baseFolder);
             } catch (const HostError& error) {
-                throw HostError(QStringLiteral("line %1 (%2): %3").arg(statement.line).arg(statement.text, error.message()));
+                throw HostError(QStringLiteral("line %1 (%2): %3")
+                                    .arg(statement.line)
+                                    .arg(statement.text, error.message()));
             }
             m_session.settle();
         }
@@ -79,7 +80,8 @@ int ScriptRunner::documentNumber(const ScriptStatement& statement)
     bool ok = false;
     const int number = statement.words[1].toInt(&ok);
     if (!ok || number < 1)
-        throw HostError(QStringLiteral("'%1' is not a document number (1, 2, ...)").arg(statement.words[1]));
+        throw HostError(
+            QStringLiteral("'%1' is not a document number (1, 2, ...)").arg(statement.words[1]));
     return number;
 }
 

@@ -5,11 +5,11 @@
 #include "HostSession.h"
 #include "ScriptRunner.h"
 
-#include <OdEventLog.h>
-
 #include <QApplication>
 #include <QFile>
 #include <QFileInfo>
+
+#include <OdEventLog.h>
 
 #include <cstdio>
 
@@ -19,7 +19,8 @@ void applySystemLocale(const QString& name)
 {
     if (name.isEmpty())
         return;
-    const QByteArray value = (name == QLatin1String("C") ? QStringLiteral("C") : name).toLatin1() + ".UTF-8";
+    const QByteArray value =
+        (name == QLatin1String("C") ? QStringLiteral("C") : name).toLatin1() + ".UTF-8";
     qputenv("LC_ALL", value);
     qputenv("LANG", value);
     qunsetenv("LANGUAGE");
@@ -43,7 +44,8 @@ int runSession(const HostOptions& options, EventPrinter& printer)
         if (options.scriptText)
             ok = runner.run(*options.scriptText, QDir::current());
         else if (!options.scriptFile.isEmpty())
-            ok = runner.run(readScript(options.scriptFile), QFileInfo(options.scriptFile).absoluteDir());
+            ok = runner.run(readScript(options.scriptFile),
+                            QFileInfo(options.scriptFile).absoluteDir());
         else
             ok = runner.run(readScript(QStringLiteral(":/demo/demo.qs")),
                             QDir(HostSession::programFolder() + QStringLiteral("/demo")));
@@ -71,7 +73,8 @@ int main(int argc, char** argv)
             return 0;
         }
     } catch (const HostError& error) {
-        std::fprintf(stderr, "quillon-host: %s\nTry 'quillon-host --help'.\n", qUtf8Printable(error.message()));
+        std::fprintf(stderr, "quillon-host: %s\nTry 'quillon-host --help'.\n",
+                     qUtf8Printable(error.message()));
         return 2;
     }
     applySystemLocale(options.locale);

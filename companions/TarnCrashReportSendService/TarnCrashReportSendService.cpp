@@ -2,11 +2,11 @@
 
 #include "PendingCrashReports.h"
 
-#include <CFxSystemServices.h>
-#include <CompanionCall.h>
-
 #include <QSettings>
 #include <QStringList>
+
+#include <CFxSystemServices.h>
+#include <CompanionCall.h>
 
 namespace {
 const QString kLibrary = QString::fromLatin1(TarnCrashReportEntryPoints::library);
@@ -14,7 +14,8 @@ const QString kLibrary = QString::fromLatin1(TarnCrashReportEntryPoints::library
 // The version is the user's: it lives in the user's settings, not beside the program.
 QSettings userSettings()
 {
-    return QSettings(QSettings::UserScope, QStringLiteral("Corvane"), QStringLiteral("CrashReport"));
+    return QSettings(QSettings::UserScope, QStringLiteral("Corvane"),
+                     QStringLiteral("CrashReport"));
 }
 
 const QString kVersionKey = QStringLiteral("Quillon/RegVersion");

@@ -4,8 +4,7 @@
 
 CFxCommandContext::CFxCommandContext(QStringList answers, OdRxObject* database)
     : m_io(std::move(answers)), m_database(database)
-{
-}
+{}
 
 CFxCommandContext::~CFxCommandContext() = default;
 

@@ -25,7 +25,8 @@ int CFxCommandLineIO::getInt(const OdString& prompt, int defaultValue)
     bool ok = false;
     const int value = answer.toInt(&ok);
     if (!ok)
-        throw OdError(OdString(QStringLiteral("'%1' is not a whole number").arg(answer).toStdWString()));
+        throw OdError(
+            OdString(QStringLiteral("'%1' is not a whole number").arg(answer).toStdWString()));
     return value;
 }
 

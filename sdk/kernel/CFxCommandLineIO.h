@@ -2,9 +2,9 @@
 
 #include "FxKernelExport.h"
 
-#include <OdEdUserIO.h>
-
 #include <QStringList>
+
+#include <OdEdUserIO.h>
 
 // User input of a command typed on the command line: each prompt takes the next word that
 // followed the command's name; when the words run out, the user "presses Enter" and the
@@ -15,7 +15,8 @@ public:
     explicit CFxCommandLineIO(QStringList answers = {});
     ~CFxCommandLineIO() override;
 
-    OdString getString(const OdString& prompt, const OdString& defaultValue = OdString::kEmpty) override;
+    OdString getString(const OdString& prompt,
+                       const OdString& defaultValue = OdString::kEmpty) override;
     int getInt(const OdString& prompt, int defaultValue = 0) override;
     void putString(const OdString& text) override;
 

@@ -22,10 +22,10 @@ void reportDocumentEvent(const char* event, const CFxDocument* document)
 
 CFxDocumentManager::CFxDocumentManager()
     : m_reactors([](CFxDocumentManagerReactor*) {
-          reportReactorEvent("reactor-removed", {{QStringLiteral("cause"), QStringLiteral("destroyed")}});
+          reportReactorEvent("reactor-removed",
+                             {{QStringLiteral("cause"), QStringLiteral("destroyed")}});
       })
-{
-}
+{}
 
 CFxDocumentManager::~CFxDocumentManager() = default;
 
@@ -51,7 +51,8 @@ CFxDocument* CFxDocumentManager::OpenDocument(const QString& pathName)
     m_documents.push_back(std::make_unique<CFxDocument>(++m_lastIndex, pathName));
     CFxDocument* document = m_documents.back().get();
     reportDocumentEvent("document-opened", document);
-    m_reactors.notify([document](CFxDocumentManagerReactor* reactor) { reactor->DocumentCreated(document); });
+    m_reactors.notify(
+        [document](CFxDocumentManagerReactor* reactor) { reactor->DocumentCreated(document); });
     activate(document);
     return document;
 }
@@ -67,13 +68,15 @@ bool CFxDocumentManager::ActivateDocument(int index)
 
 bool CFxDocumentManager::CloseDocument(int index)
 {
-    const auto at = std::find_if(m_documents.begin(), m_documents.end(),
-                                 [index](const auto& document) { return document->GetIndex() == index; });
+    const auto at =
+        std::find_if(m_documents.begin(), m_documents.end(),
+                     [index](const auto& document) { return document->GetIndex() == index; });
     if (at == m_documents.end())
         return false;
     CFxDocument* document = at->get();
-    m_reactors.notify(
-        [document](CFxDocumentManagerReactor* reactor) { reactor->DocumentToBeDestroyed(document); });
+    m_reactors.notify([document](CFxDocumentManagerReactor* reactor) {
+        reactor->DocumentToBeDestroyed(document);
+    });
     reportDocumentEvent("document-closed", document);
     const bool wasActive = document == m_active;
     std::unique_ptr<CFxDocument> closed = std::move(*at);
@@ -112,5 +115,6 @@ void CFxDocumentManager::activate(CFxDocument* document)
 {
     m_active = document;
     reportDocumentEvent("document-activated", document);
-    m_reactors.notify([document](CFxDocumentManagerReactor* reactor) { reactor->DocumentActivated(document); });
+    m_reactors.notify(
+        [document](CFxDocumentManagerReactor* reactor) { reactor->DocumentActivated(document); });
 }

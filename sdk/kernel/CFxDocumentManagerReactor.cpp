@@ -1,6 +1,8 @@
 #include "CFxDocumentManagerReactor.h"
 
-CFxDocumentManagerReactor::CFxDocumentManagerReactor() : m_attachments(static_cast<const void*>(this)) {}
+CFxDocumentManagerReactor::CFxDocumentManagerReactor()
+    : m_attachments(static_cast<const void*>(this))
+{}
 
 CFxDocumentManagerReactor::~CFxDocumentManagerReactor() = default;
 

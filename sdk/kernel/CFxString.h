@@ -2,9 +2,9 @@
 
 #include "FxKernelExport.h"
 
-#include <OdString.h>
-
 #include <QString>
+
+#include <OdString.h>
 
 #include <string>
 

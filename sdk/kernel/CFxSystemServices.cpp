@@ -2,10 +2,10 @@
 
 #include "CFxEditorReactor.h"
 
+#include <QCoreApplication>
+
 #include <OdEditor.h>
 #include <OdEventLog.h>
-
-#include <QCoreApplication>
 
 #include <utility>
 
@@ -37,7 +37,8 @@ int CFxSystemServices::FxMessageBox(const CFxString& text, const CFxString& capt
     OdEventLog::report(QStringLiteral("message-box"),
                        {{QStringLiteral("caption"), caption.toQString()},
                         {QStringLiteral("text"), text.toQString()}});
-    return m_messageBoxHandler ? m_messageBoxHandler(text.toQString(), caption.toQString(), flags) : 1;
+    return m_messageBoxHandler ? m_messageBoxHandler(text.toQString(), caption.toQString(), flags)
+                               : 1;
 }
 
 QWidget* CFxSystemServices::GetMainFrame() const
@@ -52,7 +53,8 @@ QString CFxSystemServices::GetCompanionFolder() const
     return QCoreApplication::instance() ? QCoreApplication::applicationDirPath() : QString();
 }
 
-void CFxSystemServices::SetProductVersion(int release, int serviceRelease, int servicePack, int build)
+void CFxSystemServices::SetProductVersion(int release, int serviceRelease, int servicePack,
+                                          int build)
 {
     m_version[0] = release;
     m_version[1] = serviceRelease;

@@ -11,7 +11,8 @@ public:
     ~OdEdUserIO() override;
 
     // The user's answer to `prompt`; `defaultValue` when the user just presses Enter.
-    virtual OdString getString(const OdString& prompt, const OdString& defaultValue = OdString::kEmpty) = 0;
+    virtual OdString getString(const OdString& prompt,
+                               const OdString& defaultValue = OdString::kEmpty) = 0;
     // An integer answer; throws OdError when the answer is not a whole number.
     virtual int getInt(const OdString& prompt, int defaultValue = 0) = 0;
     virtual void putString(const OdString& text) = 0;

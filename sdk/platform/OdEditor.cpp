@@ -13,10 +13,10 @@ void reportReactorEvent(const char* event, const OdEventFields& extra = {})
 
 OdEditor::OdEditor()
     : m_reactors([](OdEditorReactor*) {
-          reportReactorEvent("reactor-removed", {{QStringLiteral("cause"), QStringLiteral("destroyed")}});
+          reportReactorEvent("reactor-removed",
+                             {{QStringLiteral("cause"), QStringLiteral("destroyed")}});
       })
-{
-}
+{}
 
 OdEditor::~OdEditor() = default;
 

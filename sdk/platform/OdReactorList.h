@@ -17,8 +17,7 @@ public:
     // Called when a reactor is destroyed while still attached.
     explicit OdReactorList(std::function<void(R*)> onForgotten = {})
         : m_onForgotten(std::move(onForgotten))
-    {
-    }
+    {}
     OdReactorList(const OdReactorList&) = delete;
     OdReactorList& operator=(const OdReactorList&) = delete;
     ~OdReactorList()

@@ -115,8 +115,8 @@ OdRxModulePtr OdRxDynamicLinker::openModule(const OdString& name, OdString& erro
     OdString loaderError;
     OdModuleHandle library = OdSharedLibrary::open(path, loaderError);
     if (!library) {
-        error = fromQt(QStringLiteral("module %1 cannot be loaded: %2")
-                           .arg(moduleName, toQt(loaderError)));
+        error = fromQt(
+            QStringLiteral("module %1 cannot be loaded: %2").arg(moduleName, toQt(loaderError)));
         return OdRxModulePtr();
     }
     auto getVersion = reinterpret_cast<OdGetAPIVersionFunction>(
@@ -182,8 +182,9 @@ bool OdRxDynamicLinker::unloadModule(const OdString& name)
             {{QStringLiteral("references"), static_cast<int>(entry->module->numRefs())}});
         return false;
     }
-    const auto at = std::find_if(m_modules.begin(), m_modules.end(),
-                                 [entry](const auto& candidate) { return candidate.get() == entry; });
+    const auto at =
+        std::find_if(m_modules.begin(), m_modules.end(),
+                     [entry](const auto& candidate) { return candidate.get() == entry; });
     unload(static_cast<std::size_t>(at - m_modules.begin()));
     return true;
 }

@@ -11,8 +11,7 @@ class OdRxObjectImpl : public T
 public:
     template <class... Args>
     explicit OdRxObjectImpl(Args&&... args) : T(std::forward<Args>(args)...)
-    {
-    }
+    {}
 
     template <class... Args>
     static OdSmartPtr<T> createObject(Args&&... args)

@@ -47,8 +47,14 @@ public:
     bool isNull() const { return m_object == nullptr; }
     explicit operator bool() const { return m_object != nullptr; }
 
-    friend bool operator==(const OdSmartPtr& a, const OdSmartPtr& b) { return a.m_object == b.m_object; }
-    friend bool operator!=(const OdSmartPtr& a, const OdSmartPtr& b) { return a.m_object != b.m_object; }
+    friend bool operator==(const OdSmartPtr& a, const OdSmartPtr& b)
+    {
+        return a.m_object == b.m_object;
+    }
+    friend bool operator!=(const OdSmartPtr& a, const OdSmartPtr& b)
+    {
+        return a.m_object != b.m_object;
+    }
 
 private:
     void acquire()

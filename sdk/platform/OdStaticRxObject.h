@@ -11,8 +11,7 @@ class OdStaticRxObject : public T
 public:
     template <class... Args>
     explicit OdStaticRxObject(Args&&... args) : T(std::forward<Args>(args)...)
-    {
-    }
+    {}
 
     void addRef() override {}
     void release() override {}

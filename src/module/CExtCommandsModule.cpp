@@ -28,7 +28,8 @@ void CExtCommandsModule::createCrashReactor()
     TarnCrashReportSendService service;
     QString stored;
     const bool recorded = service.getRegVersion(stored);
-    crashReactor = new TarnCrashReportEditorReactor(crashReportInstallCheck(recorded, stored, current));
+    crashReactor =
+        new TarnCrashReportEditorReactor(crashReportInstallCheck(recorded, stored, current));
     GetFxSystemServices()->GetDocumentManager()->AddReactor(crashReactor);
 }
 

@@ -1,10 +1,11 @@
 #include "DelayLoadLibrary.h"
 
-#include <CFxSystemServices.h>
-
 #include <QDir>
 
-DelayLoadLibrary::DelayLoadLibrary(const char* baseName) : m_baseName(QString::fromLatin1(baseName)) {}
+#include <CFxSystemServices.h>
+
+DelayLoadLibrary::DelayLoadLibrary(const char* baseName) : m_baseName(QString::fromLatin1(baseName))
+{}
 
 bool DelayLoadLibrary::load()
 {

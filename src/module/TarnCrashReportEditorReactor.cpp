@@ -5,7 +5,9 @@
 #include <CFxSystemServices.h>
 #include <TarnCrashReportSendService.h>
 
-TarnCrashReportEditorReactor::TarnCrashReportEditorReactor(bool installCheck) : installCheck(installCheck) {}
+TarnCrashReportEditorReactor::TarnCrashReportEditorReactor(bool installCheck)
+    : installCheck(installCheck)
+{}
 
 void TarnCrashReportEditorReactor::DocumentCreated(CFxDocument*) {}
 

@@ -48,8 +48,9 @@ HostResult HostProcess::run(const QStringList& arguments, int timeoutMs)
             continue;
         QJsonObject fields = QJsonDocument::fromJson(line).object();
         const QString name = fields.take(QStringLiteral("event")).toString();
-        result.events.append({name.isEmpty() ? QStringLiteral("<not json: %1>").arg(QString::fromUtf8(line)) : name,
-                              fields});
+        result.events.append(
+            {name.isEmpty() ? QStringLiteral("<not json: %1>").arg(QString::fromUtf8(line)) : name,
+             fields});
     }
     return result;
 }

@@ -32,6 +32,7 @@ IsolatedHome::~IsolatedHome()
         else
             qputenv(saved.first.constData(), saved.second);
     }
-    pointSettingsAt(QString::fromLocal8Bit(qgetenv("XDG_CONFIG_HOME")),
-                    QString::fromLocal8Bit(qgetenv("XDG_CONFIG_DIRS")).section(QLatin1Char(':'), 0, 0));
+    pointSettingsAt(
+        QString::fromLocal8Bit(qgetenv("XDG_CONFIG_HOME")),
+        QString::fromLocal8Bit(qgetenv("XDG_CONFIG_DIRS")).section(QLatin1Char(':'), 0, 0));
 }

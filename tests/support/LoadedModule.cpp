@@ -23,7 +23,8 @@ LoadedModule::LoadedModule(const QString& name) : m_name(name)
     if (odrxDynamicLinker()->searchPath().empty())
         useFolder();
     try {
-        OdRxModulePtr module = odrxDynamicLinker()->loadModule(OdString(name.toStdWString()), false);
+        OdRxModulePtr module =
+            odrxDynamicLinker()->loadModule(OdString(name.toStdWString()), false);
         m_module = module.get();
         m_path = QString::fromStdWString(m_module->moduleName().wide());
     } catch (const OdError& error) {
