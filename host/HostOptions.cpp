@@ -50,6 +50,10 @@ void defineOptions(QCommandLineParser& parser)
          QStringLiteral("NAME")},
         {QStringLiteral("product-version"), QStringLiteral("The host's product version."),
          QStringLiteral("A.B.C.D"), QStringLiteral("2026.0.1.4120")},
+        {QStringLiteral("ui-profile"),
+         QStringLiteral("Build the user interface from this UI profile (JSON) instead of the "
+                        "built-in one."),
+         QStringLiteral("FILE")},
         {QStringLiteral("c"),
          QStringLiteral("Run TEXT as the script (statements separated by newlines or ';')."),
          QStringLiteral("TEXT")},
@@ -83,6 +87,7 @@ HostOptions HostOptions::parse(const QStringList& arguments, QString& helpText, 
     options.languageId =
         parseInteger(parser.value(QStringLiteral("language")), QStringLiteral("language"));
     options.locale = parser.value(QStringLiteral("locale"));
+    options.uiProfile = parser.value(QStringLiteral("ui-profile"));
     parseProductVersion(parser.value(QStringLiteral("product-version")), options.productVersion);
     options.json = parser.isSet(QStringLiteral("json"));
     if (parser.isSet(QStringLiteral("c")))

@@ -13,6 +13,8 @@ struct HostOptions
     QString companionPath;
     int languageId = 2;
     QString locale;
+    // The UI profile that the host builds its user interface from (default: the built-in one).
+    QString uiProfile;
     int productVersion[4] = {2026, 0, 1, 4120};
     bool json = false;
     // The script: a file, or text given with -c. Neither: the window, or the demo session.

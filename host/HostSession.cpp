@@ -8,10 +8,14 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QMainWindow>
+#include <QSettings>
 #include <QTimer>
 
 #include <CFxCommandContext.h>
 #include <CFxSystemServices.h>
+#include <CFxUI.h>
+#include <CFxUIJsonReader.h>
+#include <CFxUIJsonWriter.h>
 #include <OdEdCommandStack.h>
 #include <OdError.h>
 #include <OdEventLog.h>
@@ -54,8 +58,39 @@ void HostSession::start()
     if (searchPath.empty())
         searchPath.push_back(toOd(programFolder()));
     odrxDynamicLinker()->setSearchPath(searchPath);
+    services->SetInstallationId(installationId());
+    loadUiProfile();
     for (const QString& module : m_options.modules)
         loadModule(module);
+}
+
+QString HostSession::defaultUiProfile()
+{
+    return QStringLiteral(":/profiles/default.json");
+}
+
+void HostSession::loadUiProfile()
+{
+    auto ui = std::make_unique<CFxUI>();
+    try {
+        CFxUIJsonReader::readFile(
+            m_options.uiProfile.isEmpty() ? defaultUiProfile() : m_options.uiProfile, *ui);
+    } catch (const OdError& error) {
+        throw HostError(QStringLiteral("UI profile %1").arg(toQt(error.description())));
+    }
+    GetFxSystemServices()->SetUI(std::move(ui));
+}
+
+QUuid HostSession::installationId()
+{
+    // Made once per user and kept, as an installer would record it.
+    QSettings settings(QStringLiteral("Corvane"), QStringLiteral("Quillon"));
+    QUuid id(settings.value(QStringLiteral("Installation/Id")).toString());
+    if (id.isNull()) {
+        id = QUuid::createUuid();
+        settings.setValue(QStringLiteral("Installation/Id"), id.toString());
+    }
+    return id;
 }
 
 void HostSession::shutdown()
@@ -141,7 +176,9 @@ void HostSession::runCommandLine(const QString& name, const QStringList& answers
 
 void HostSession::reportUi()
 {
-    OdEventLog::report(QStringLiteral("ui"), {{QStringLiteral("model"), QJsonObject()}});
+    const CFxUI* ui = GetFxSystemServices()->GetUI();
+    OdEventLog::report(QStringLiteral("ui"), {{QStringLiteral("model"),
+                                               ui ? CFxUIJsonWriter::write(*ui) : QJsonObject()}});
 }
 
 void HostSession::reportCommands()

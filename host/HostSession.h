@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QStringList>
+#include <QUuid>
 
 #include <memory>
 
@@ -40,8 +41,12 @@ public:
     void settle();
 
     static QString programFolder();
+    static QString defaultUiProfile();
 
 private:
+    void loadUiProfile();
+    static QUuid installationId();
+
     const HostOptions m_options;
     std::unique_ptr<QMainWindow> m_mainFrame;
 };

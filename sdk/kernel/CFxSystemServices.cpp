@@ -1,6 +1,7 @@
 #include "CFxSystemServices.h"
 
 #include "CFxEditorReactor.h"
+#include "CFxUI.h"
 
 #include <QCoreApplication>
 
@@ -51,6 +52,26 @@ QString CFxSystemServices::GetCompanionFolder() const
     if (!m_companionFolder.isEmpty())
         return m_companionFolder;
     return QCoreApplication::instance() ? QCoreApplication::applicationDirPath() : QString();
+}
+
+CFxUI* CFxSystemServices::GetUI() const
+{
+    return m_ui.get();
+}
+
+QUuid CFxSystemServices::GetInstallationId() const
+{
+    return m_installationId;
+}
+
+void CFxSystemServices::SetUI(std::unique_ptr<CFxUI> ui)
+{
+    m_ui = std::move(ui);
+}
+
+void CFxSystemServices::SetInstallationId(const QUuid& id)
+{
+    m_installationId = id;
 }
 
 void CFxSystemServices::SetProductVersion(int release, int serviceRelease, int servicePack,

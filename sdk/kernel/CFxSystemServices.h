@@ -5,9 +5,12 @@
 #include "FxKernelExport.h"
 
 #include <QString>
+#include <QUuid>
 
 #include <functional>
+#include <memory>
 
+class CFxUI;
 class QWidget;
 
 // The host's services as modules reach them through GetFxSystemServices(). The host program
@@ -35,12 +38,18 @@ public:
     virtual QWidget* GetMainFrame() const;
     // The folder where the host keeps its optional companion libraries.
     virtual QString GetCompanionFolder() const;
+    // The host's user-interface model, or null while it has none.
+    virtual CFxUI* GetUI() const;
+    // The identifier of this installation of the host (handed to the task pane).
+    virtual QUuid GetInstallationId() const;
 
     void SetProductVersion(int release, int serviceRelease, int servicePack, int build);
     void SetCurrentLanguageId(int languageId);
     // Without a handler a message only becomes a message-box event; with one it is also shown.
     void SetMessageBoxHandler(MessageBoxHandler handler);
     void SetCompanionFolder(const QString& folder);
+    void SetUI(std::unique_ptr<CFxUI> ui);
+    void SetInstallationId(const QUuid& id);
 
     // The host's main window came into being / is about to go: every editor reactor that is a
     // CFxEditorReactor hears of it.
@@ -53,6 +62,8 @@ private:
     CFxDocumentManager m_documents;
     MessageBoxHandler m_messageBoxHandler;
     QString m_companionFolder;
+    std::unique_ptr<CFxUI> m_ui;
+    QUuid m_installationId;
     QWidget* m_mainFrame = nullptr;
 };
 

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "CFxUIGroup.h"
+#include "CFxUIGroupIterator.h"
+#include "CFxUIList.h"
+#include "CFxUIMenuEntry.h"
+#include "CFxUIRibbonButton.h"
+#include "CFxUIRibbonRow.h"
+#include "CFxUIRibbonSystemMenuItem.h"
+#include "CFxUIWorkspace.h"
+#include "FxKernelExport.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+// The host's user-interface model: menu groups with their pull-down menus, ribbon tabs,
+// panels, rows and buttons, commands and application menus; the workspaces; and the ribbon's
+// system menu. It owns every object it creates: an object removed from a list stays alive
+// until the model goes, so a stale pointer never dangles. Identifiers are matched without
+// regard to letter case.
+class FX_KERNEL_EXPORT CFxUI
+{
+public:
+    CFxUI();
+    ~CFxUI();
+    CFxUI(const CFxUI&) = delete;
+    CFxUI& operator=(const CFxUI&) = delete;
+
+    CFxUIList<CFxUIGroup>& GetMenuGroups() { return m_groups; }
+    const CFxUIList<CFxUIGroup>& GetMenuGroups() const { return m_groups; }
+    // The caller deletes the iterator.
+    CFxUIGroupIterator* NewGroupIterator() const;
+    CFxUIGroup* GetReferenceMenuGroup() const { return m_referenceGroup; }
+    void SetReferenceMenuGroup(CFxUIGroup* group) { m_referenceGroup = group; }
+
+    CFxUIList<CFxUIWorkspace>& GetWorkspaces() { return m_workspaces; }
+    const CFxUIList<CFxUIWorkspace>& GetWorkspaces() const { return m_workspaces; }
+    CFxUIWorkspace* FindWorkspace(const CFxString& name) const;
+
+    // The root of the ribbon's system menu; its sub-items are the menu.
+    CFxUIRibbonSystemMenuItem* GetRibbonSystemMenu() const { return m_systemMenu; }
+
+    CFxUIGroup* CreateMenuGroup(const CFxString& identifier);
+    CFxUIPullDownMenu* CreatePullDownMenu(const CFxString& identifier);
+    CFxUIMenuItem* CreateMenuItem();
+    // The entry is shown at the end of `menu`.
+    CFxUIMenuEntry* CreateMenuEntry(CFxUIPullDownMenu* menu);
+    CFxUIRibbonTab* CreateRibbonTab(const CFxString& identifier);
+    CFxUIRibbonPanel* CreateRibbonPanel(const CFxString& identifier);
+    CFxUIRibbonRow* CreateRibbonRow(const CFxString& identifier);
+    // `kind` is one of CFxUIRibbonButton::Kind; null for any other code.
+    CFxUIRibbonButton* CreateRibbonButton(int kind, const CFxString& identifier);
+    CFxUIRibbonSystemMenuItem* CreateRibbonSystemMenuItem(const CFxString& identifier);
+    CFxUIWorkspace* CreateWorkspace(const CFxString& name);
+
+    // A new command; with an owner it is also added to the owner's command list.
+    CFxUICommand* CreateCommand(const CFxString& identifier, CFxUIGroup* owner);
+    // The command of that identifier in the command list of the group `groupIdentifier`.
+    CFxUICommand* FindCommand(const CFxString& groupIdentifier,
+                              const CFxString& commandIdentifier) const;
+    // Takes the command out of every command list, button and menu entry, and destroys it.
+    void DeleteCommand(CFxUICommand* command);
+
+    // Tells the host's window to show the model as it is now.
+    void Update();
+    void SetUpdateHandler(std::function<void()> handler);
+
+private:
+    template <class T, class... Args>
+    T* make(Args&&... args);
+
+    std::vector<std::unique_ptr<CFxUIObject>> m_objects;
+    CFxUIList<CFxUIGroup> m_groups;
+    CFxUIList<CFxUIWorkspace> m_workspaces;
+    CFxUIGroup* m_referenceGroup = nullptr;
+    CFxUIRibbonSystemMenuItem* m_systemMenu = nullptr;
+    std::function<void()> m_updateHandler;
+};

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "FxKernelExport.h"
+
+#include <QJsonObject>
+
+class CFxUI;
+
+// Writes the whole user-interface model as JSON: every container in order, with identifiers,
+// texts, flags and attached commands. A command that stands in its group's command list is
+// named by its identifier; any other attached command is written out in full where it is
+// attached. The format is the one CFxUIJsonReader reads (see docs/host.md).
+class FX_KERNEL_EXPORT CFxUIJsonWriter
+{
+public:
+    static QJsonObject write(const CFxUI& ui);
+};

@@ -1,0 +1,3 @@
+#include "CFxUIMenuItem.h"
+
+CFxUIMenuItem::CFxUIMenuItem() : CFxUIObject(CFxString()) {}

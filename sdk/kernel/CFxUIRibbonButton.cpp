@@ -1,0 +1,5 @@
+#include "CFxUIRibbonButton.h"
+
+CFxUIRibbonButton::CFxUIRibbonButton(int kind, const CFxString& identifier)
+    : CFxUIObject(identifier), m_kind(kind)
+{}
