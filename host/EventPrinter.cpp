@@ -30,13 +30,18 @@ EventPrinter::EventPrinter(bool json, std::FILE* output) : m_json(json), m_outpu
 
 void EventPrinter::hostEvent(const QString& name, const OdEventFields& fields)
 {
-    write(m_json ? jsonLine(name, fields) : readableLine(name, fields));
+    const QByteArray readable = readableLine(name, fields);
+    write(m_json ? jsonLine(name, fields) : readable);
+    if (m_echo)
+        m_echo(QString::fromUtf8(readable));
 }
 
 void EventPrinter::note(const QString& text)
 {
     if (!m_json)
         write(text.toUtf8());
+    if (m_echo)
+        m_echo(text);
 }
 
 QByteArray EventPrinter::jsonLine(const QString& name, const OdEventFields& fields)

@@ -3,6 +3,7 @@
 #include <OdEventSink.h>
 
 #include <cstdio>
+#include <functional>
 
 // Writes every event to standard output as it happens: one JSON object per line, or a
 // readable line. Output is flushed per event, so a reader sees each one at once.
@@ -15,6 +16,9 @@ public:
     // A line that is not an event (the statement being run, in readable mode only).
     void note(const QString& text);
 
+    // Also hands every readable line to `echo` (the window's log).
+    void setEcho(std::function<void(const QString&)> echo) { m_echo = std::move(echo); }
+
     static QByteArray jsonLine(const QString& name, const OdEventFields& fields);
     static QByteArray readableLine(const QString& name, const OdEventFields& fields);
 
@@ -23,4 +27,5 @@ private:
 
     bool m_json;
     std::FILE* m_output;
+    std::function<void(const QString&)> m_echo;
 };

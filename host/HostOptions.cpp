@@ -58,6 +58,8 @@ void defineOptions(QCommandLineParser& parser)
          QStringLiteral("Run TEXT as the script (statements separated by newlines or ';')."),
          QStringLiteral("TEXT")},
         {QStringLiteral("json"), QStringLiteral("Write each event as one JSON object per line.")},
+        {QStringLiteral("demo"),
+         QStringLiteral("Play the demo session even when a display is present.")},
     });
     parser.addPositionalArgument(QStringLiteral("SCRIPT"), QStringLiteral("A script file to run."),
                                  QStringLiteral("[SCRIPT]"));
@@ -90,6 +92,7 @@ HostOptions HostOptions::parse(const QStringList& arguments, QString& helpText, 
     options.uiProfile = parser.value(QStringLiteral("ui-profile"));
     parseProductVersion(parser.value(QStringLiteral("product-version")), options.productVersion);
     options.json = parser.isSet(QStringLiteral("json"));
+    options.demo = parser.isSet(QStringLiteral("demo"));
     if (parser.isSet(QStringLiteral("c")))
         options.scriptText = parser.value(QStringLiteral("c"));
     const QStringList positional = parser.positionalArguments();

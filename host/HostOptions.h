@@ -17,6 +17,8 @@ struct HostOptions
     QString uiProfile;
     int productVersion[4] = {2026, 0, 1, 4120};
     bool json = false;
+    // Play the demo session even when a display would allow the window.
+    bool demo = false;
     // The script: a file, or text given with -c. Neither: the window, or the demo session.
     QString scriptFile;
     std::optional<QString> scriptText;

@@ -1,13 +1,13 @@
 #include "HostSession.h"
 
 #include "HostError.h"
+#include "HostWindow.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QMainWindow>
 #include <QSettings>
 #include <QTimer>
 
@@ -97,7 +97,22 @@ void HostSession::shutdown()
 {
     if (m_mainFrame)
         destroyMainFrame();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     odrxDynamicLinker()->unloadAll();
+}
+
+void HostSession::WindowDeleter::operator()(HostWindow* window) const
+{
+    // The window may be going because of its own command line: let its signal finish first.
+    window->hide();
+    window->deleteLater();
+}
+
+void HostSession::setWindowHandlers(std::function<void(const QString&)> commandLine,
+                                    std::function<void()> windowGone)
+{
+    m_onCommandLine = std::move(commandLine);
+    m_onClose = std::move(windowGone);
 }
 
 void HostSession::createMainFrame()
@@ -105,10 +120,18 @@ void HostSession::createMainFrame()
     // The host tells its reactors of every creation request; a second one without a destroy
     // reaches them again, with the same window.
     if (!m_mainFrame) {
-        m_mainFrame = std::make_unique<QMainWindow>();
-        m_mainFrame->setWindowTitle(QStringLiteral("Quillon"));
+        m_mainFrame.reset(new HostWindow);
+        if (m_onCommandLine) {
+            QObject::connect(m_mainFrame.get(), &HostWindow::commandLineEntered, m_onCommandLine);
+            QObject::connect(m_mainFrame.get(), &HostWindow::closeRequested,
+                             [this] { destroyMainFrame(); });
+            m_mainFrame->show();
+        }
+        if (CFxUI* ui = GetFxSystemServices()->GetUI())
+            ui->SetUpdateHandler([this] { refreshWindow(); });
     }
     GetFxSystemServices()->MainFrameCreated(m_mainFrame.get());
+    refreshWindow();
 }
 
 void HostSession::destroyMainFrame()
@@ -116,7 +139,17 @@ void HostSession::destroyMainFrame()
     if (!m_mainFrame)
         throw HostError(QStringLiteral("there is no main window to destroy"));
     GetFxSystemServices()->MainFrameDestroyed(m_mainFrame.get());
+    if (CFxUI* ui = GetFxSystemServices()->GetUI())
+        ui->SetUpdateHandler({});
     m_mainFrame.reset();
+    if (m_onClose)
+        m_onClose();
+}
+
+void HostSession::refreshWindow()
+{
+    if (m_mainFrame && GetFxSystemServices()->GetUI())
+        m_mainFrame->showModel(*GetFxSystemServices()->GetUI());
 }
 
 void HostSession::loadModule(const QString& name)
@@ -196,8 +229,25 @@ void HostSession::waitEvents()
     loop.exec();
 }
 
+void HostSession::screenshot(const QString& path)
+{
+    if (!m_mainFrame)
+        throw HostError(QStringLiteral("there is no main window to take a picture of"));
+    if (!m_mainFrame->isVisible()) {
+        m_mainFrame->setAttribute(Qt::WA_DontShowOnScreen, true);
+        m_mainFrame->show();
+    }
+    QCoreApplication::processEvents();
+    if (!m_mainFrame->grab().save(path, "PNG"))
+        throw HostError(QStringLiteral("cannot write %1").arg(path));
+    OdEventLog::report(QStringLiteral("file-written"),
+                       {{QStringLiteral("path"), QFileInfo(path).absoluteFilePath()}});
+}
+
 void HostSession::settle()
 {
     QCoreApplication::sendPostedEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     odrxDynamicLinker()->unloadUnreferenced();
+    refreshWindow();
 }

@@ -6,9 +6,10 @@
 #include <QStringList>
 #include <QUuid>
 
+#include <functional>
 #include <memory>
 
-class QMainWindow;
+class HostWindow;
 
 // The running host: its system services, its modules, its main window and its documents.
 // Each operation is one thing a user (or a script) can do; a request that cannot be carried
@@ -23,6 +24,11 @@ public:
 
     // Configures the kernel's services and the linker, and loads the start modules.
     void start();
+    // With handlers, the main window is shown: its user types command lines, and when it
+    // goes (closed by its user or destroyed by a statement) `windowGone` is called. Without
+    // them, the main window exists only for the modules.
+    void setWindowHandlers(std::function<void(const QString&)> commandLine,
+                           std::function<void()> windowGone);
     // Destroys the main window if there is one and unloads every module.
     void shutdown();
 
@@ -37,9 +43,13 @@ public:
     void reportUi();
     void reportCommands();
     void waitEvents();
+    // Saves a picture of the main window as PNG.
+    void screenshot(const QString& path);
     // Lets the linker carry out unload requests whose modules are no longer referenced.
     void settle();
 
+    HostWindow* mainFrame() const { return m_mainFrame.get(); }
+    void refreshWindow();
     static QString programFolder();
     static QString defaultUiProfile();
 
@@ -48,5 +58,11 @@ private:
     static QUuid installationId();
 
     const HostOptions m_options;
-    std::unique_ptr<QMainWindow> m_mainFrame;
+    struct WindowDeleter
+    {
+        void operator()(HostWindow* window) const;
+    };
+    std::unique_ptr<HostWindow, WindowDeleter> m_mainFrame;
+    std::function<void(const QString&)> m_onCommandLine;
+    std::function<void()> m_onClose;
 };

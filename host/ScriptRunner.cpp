@@ -67,6 +67,9 @@ void ScriptRunner::execute(const ScriptStatement& statement, const QDir& baseFol
     } else if (keyword == QLatin1String("commands")) {
         expectWords(statement, 1, "commands");
         m_session.reportCommands();
+    } else if (keyword == QLatin1String("screenshot")) {
+        expectWords(statement, 2, "screenshot PATH");
+        m_session.screenshot(baseFolder.absoluteFilePath(statement.words[1]));
     } else if (keyword == QLatin1String("wait-events")) {
         expectWords(statement, 1, "wait-events");
         m_session.waitEvents();

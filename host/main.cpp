@@ -3,12 +3,15 @@
 #include "HostError.h"
 #include "HostOptions.h"
 #include "HostSession.h"
+#include "HostWindow.h"
 #include "ScriptRunner.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QMessageBox>
 
+#include <CFxSystemServices.h>
 #include <OdEventLog.h>
 
 #include <cstdio>
@@ -34,14 +37,48 @@ QString readScript(const QString& path)
     return QString::fromUtf8(file.readAll());
 }
 
-int runSession(const HostOptions& options, EventPrinter& printer)
+bool displayAvailable()
+{
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
+    return !qEnvironmentVariableIsEmpty("DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+#else
+    return true;
+#endif
+}
+
+// The window: the user works in it until it is closed. Errors of what the user types are
+// reported and the session goes on.
+bool runWindow(HostSession& session, ScriptRunner& runner, EventPrinter& printer)
+{
+    session.setWindowHandlers([&runner](const QString& line) { runner.run(line, QDir::current()); },
+                              [] { QCoreApplication::quit(); });
+    GetFxSystemServices()->SetMessageBoxHandler(
+        [&session](const QString& text, const QString& caption, int) {
+            QMessageBox::information(session.mainFrame(), caption, text);
+            return 1;
+        });
+    session.createMainFrame();
+    printer.setEcho([&session](const QString& line) {
+        if (session.mainFrame())
+            session.mainFrame()->appendLog(line);
+    });
+    QApplication::exec();
+    printer.setEcho({});
+    GetFxSystemServices()->SetMessageBoxHandler({});
+    return true;
+}
+
+int runSession(const HostOptions& options, EventPrinter& printer, bool windowMode)
 {
     HostSession session(options);
     ScriptRunner runner(session, printer);
     bool ok = false;
     try {
         session.start();
-        if (options.scriptText)
+        if (windowMode)
+            ok = runWindow(session, runner, printer);
+        else if (options.scriptText)
             ok = runner.run(*options.scriptText, QDir::current());
         else if (!options.scriptFile.isEmpty())
             ok = runner.run(readScript(options.scriptFile),
@@ -78,14 +115,16 @@ int main(int argc, char** argv)
         return 2;
     }
     applySystemLocale(options.locale);
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    const bool windowMode =
+        !options.demo && !options.scriptText && options.scriptFile.isEmpty() && displayAvailable();
+    if (!windowMode && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quillon"));
     QApplication::setOrganizationName(QStringLiteral("Corvane"));
     EventPrinter printer(options.json, stdout);
     OdEventLog::setSink(&printer);
-    const int exitCode = runSession(options, printer);
+    const int exitCode = runSession(options, printer, windowMode);
     OdEventLog::setSink(nullptr);
     return exitCode;
 }
