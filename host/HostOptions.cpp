@@ -54,6 +54,10 @@ void defineOptions(QCommandLineParser& parser)
          QStringLiteral("Build the user interface from this UI profile (JSON) instead of the "
                         "built-in one."),
          QStringLiteral("FILE")},
+        {QStringLiteral("registry"),
+         QStringLiteral("Use FILE as the system registry's stand-in (default: "
+                        "Corvane/registry.ini in the user's configuration folder)."),
+         QStringLiteral("FILE")},
         {QStringLiteral("c"),
          QStringLiteral("Run TEXT as the script (statements separated by newlines or ';')."),
          QStringLiteral("TEXT")},
@@ -90,6 +94,7 @@ HostOptions HostOptions::parse(const QStringList& arguments, QString& helpText, 
         parseInteger(parser.value(QStringLiteral("language")), QStringLiteral("language"));
     options.locale = parser.value(QStringLiteral("locale"));
     options.uiProfile = parser.value(QStringLiteral("ui-profile"));
+    options.registryFile = parser.value(QStringLiteral("registry"));
     parseProductVersion(parser.value(QStringLiteral("product-version")), options.productVersion);
     options.json = parser.isSet(QStringLiteral("json"));
     options.demo = parser.isSet(QStringLiteral("demo"));

@@ -15,6 +15,8 @@ struct HostOptions
     QString locale;
     // The UI profile that the host builds its user interface from (default: the built-in one).
     QString uiProfile;
+    // The file that stands in for the system registry (default: in the user's configuration).
+    QString registryFile;
     int productVersion[4] = {2026, 0, 1, 4120};
     bool json = false;
     // Play the demo session even when a display would allow the window.

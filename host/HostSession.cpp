@@ -12,6 +12,7 @@
 #include <QTimer>
 
 #include <CFxCommandContext.h>
+#include <CFxRegistry.h>
 #include <CFxSystemServices.h>
 #include <CFxUI.h>
 #include <CFxUIJsonReader.h>
@@ -59,6 +60,8 @@ void HostSession::start()
         searchPath.push_back(toOd(programFolder()));
     odrxDynamicLinker()->setSearchPath(searchPath);
     services->SetInstallationId(installationId());
+    if (!m_options.registryFile.isEmpty())
+        CFxRegistry::setStandInFile(QFileInfo(m_options.registryFile).absoluteFilePath());
     loadUiProfile();
     for (const QString& module : m_options.modules)
         loadModule(module);
