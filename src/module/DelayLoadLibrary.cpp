@@ -4,8 +4,22 @@
 
 #include <CFxSystemServices.h>
 
-DelayLoadLibrary::DelayLoadLibrary(const char* baseName) : m_baseName(QString::fromLatin1(baseName))
-{}
+#include <map>
+#include <memory>
+#include <utility>
+
+DelayLoadLibrary& DelayLoadLibrary::companion(const char* baseName)
+{
+    // One per library for the life of the module; the libraries themselves stay loaded.
+    static std::map<QString, std::unique_ptr<DelayLoadLibrary>> imports;
+    const QString name = QString::fromLatin1(baseName);
+    auto& import = imports[name];
+    if (!import)
+        import.reset(new DelayLoadLibrary(name));
+    return *import;
+}
+
+DelayLoadLibrary::DelayLoadLibrary(QString baseName) : m_baseName(std::move(baseName)) {}
 
 bool DelayLoadLibrary::load()
 {

@@ -4,33 +4,38 @@
 #include <TarnCrashReportSendService.h>
 
 namespace {
-DelayLoadLibrary g_library(TarnCrashReportEntryPoints::library);
+template <class Function>
+Function resolved(const char* symbol)
+{
+    return DelayLoadLibrary::companion(TarnCrashReportEntryPoints::library)
+        .resolve<Function>(symbol);
+}
 } // namespace
 
 bool TarnCrashReportSendService::getRegVersion(QString& version)
 {
-    auto entry = g_library.resolve<TarnCrashReportGetRegVersionFunction>(
-        TarnCrashReportEntryPoints::getRegVersion);
-    return entry && entry(&version);
+    auto call =
+        resolved<TarnCrashReportGetRegVersionFunction>(TarnCrashReportEntryPoints::getRegVersion);
+    return call && call(&version);
 }
 
 void TarnCrashReportSendService::setRegVersion(const QString& version)
 {
-    if (auto entry = g_library.resolve<TarnCrashReportSetRegVersionFunction>(
+    if (auto call = resolved<TarnCrashReportSetRegVersionFunction>(
             TarnCrashReportEntryPoints::setRegVersion))
-        entry(&version);
+        call(&version);
 }
 
 void TarnCrashReportSendService::initialCheckOnInstall() const
 {
-    if (auto entry = g_library.resolve<TarnCrashReportCheckFunction>(
+    if (auto call = resolved<TarnCrashReportCheckFunction>(
             TarnCrashReportEntryPoints::initialCheckOnInstall))
-        entry();
+        call();
 }
 
 void TarnCrashReportSendService::reminderCheck()
 {
-    if (auto entry = g_library.resolve<TarnCrashReportCheckFunction>(
-            TarnCrashReportEntryPoints::reminderCheck))
-        entry();
+    if (auto call =
+            resolved<TarnCrashReportCheckFunction>(TarnCrashReportEntryPoints::reminderCheck))
+        call();
 }
