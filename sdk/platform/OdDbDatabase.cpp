@@ -1,0 +1,157 @@
+#include "OdDbDatabase.h"
+
+#include "OdDxfReader.h"
+#include "OdDxfWriter.h"
+#include "OdError.h"
+#include "OdRxObjectImpl.h"
+#include "OdRxSystemServices.h"
+
+#include <QFileInfo>
+
+#include <limits>
+#include <utility>
+
+namespace {
+QString toQt(const OdString& text)
+{
+    return QString::fromStdWString(text.wide());
+}
+
+OdString toOd(const QString& text)
+{
+    return OdString(text.toStdWString());
+}
+
+QByteArray readAll(OdStreamBuf& stream)
+{
+    QByteArray content;
+    const std::uint64_t length = stream.length();
+    if (length > static_cast<std::uint64_t>(std::numeric_limits<int>::max() / 2))
+        throw OdError(
+            toOd(QStringLiteral("%1 is too large to be a drawing").arg(toQt(stream.fileName()))));
+    content.resize(static_cast<int>(length));
+    if (length > 0)
+        stream.getBytes(content.data(), static_cast<std::uint32_t>(length));
+    return content;
+}
+
+// The block record of a BLOCK entity's groups [begin, end).
+class BlockGroups
+{
+public:
+    BlockGroups(const std::vector<OdDxfGroup>& groups, std::size_t begin, std::size_t end)
+    {
+        for (std::size_t at = begin; at < end; ++at)
+            take(groups[at]);
+    }
+
+    OdString name;
+    int flags = 0;
+    OdString pathName;
+
+private:
+    void take(const OdDxfGroup& group)
+    {
+        if (group.code() == 2 && !m_named) {
+            name = toOd(group.text());
+            m_named = true;
+        } else if (group.code() == 70) {
+            flags = group.toInt();
+        } else if (group.code() == 1) {
+            pathName = toOd(group.text());
+        }
+    }
+
+    bool m_named = false;
+};
+
+class BlockRecord : public OdDbBlockTableRecord
+{
+public:
+    BlockRecord(OdDbObjectId id, const BlockGroups& block)
+        : OdDbBlockTableRecord(id, block.name, block.flags,
+                               block.flags & kExternalReference ? block.pathName : OdString())
+    {}
+};
+} // namespace
+
+OdDbDatabase::OdDbDatabase(OdString fileName, std::vector<OdDxfGroup> groups, QByteArray lineEnding)
+    : m_fileName(std::move(fileName)), m_groups(std::move(groups)),
+      m_lineEnding(std::move(lineEnding))
+{
+    readBlocks();
+}
+
+OdDbDatabase::~OdDbDatabase() = default;
+
+OdDbDatabasePtr OdDbDatabase::readFile(const OdString& path)
+{
+    const QString absolute = QFileInfo(toQt(path)).absoluteFilePath();
+    QByteArray content;
+    {
+        OdStreamBufPtr stream = odSystemServices()->createFile(
+            toOd(absolute), Oda::kFileRead, Oda::kShareDenyWrite, Oda::kOpenExisting);
+        content = readAll(*stream);
+    }
+    std::vector<OdDxfGroup> groups = OdDxfReader::read(content, absolute);
+    return OdDbDatabasePtr(new OdRxObjectImpl<OdDbDatabase>(toOd(absolute), std::move(groups),
+                                                            OdDxfReader::lineEnding(content)));
+}
+
+OdDbDatabasePtr OdDbDatabase::cast(const OdRxObject* object)
+{
+    return OdDbDatabasePtr(dynamic_cast<OdDbDatabase*>(const_cast<OdRxObject*>(object)));
+}
+
+void OdDbDatabase::writeFile(OdStreamBuf* stream, OdDb::SaveType fileType, OdDb::DwgVersion, bool,
+                             int) const
+{
+    if (!stream)
+        throw OdError(OdString(L"no stream to write the drawing into"));
+    if (fileType != OdDb::kDwg && fileType != OdDb::kDxf)
+        throw OdError(toOd(QStringLiteral("%1: file type %2 is not written, only drawings (0) "
+                                          "and ASCII DXF (1)")
+                               .arg(toQt(stream->fileName()))
+                               .arg(static_cast<int>(fileType))));
+    const QByteArray content = OdDxfWriter::write(m_groups, m_lineEnding);
+    stream->putBytes(content.constData(), static_cast<std::uint32_t>(content.size()));
+}
+
+OdDbObjectId OdDbDatabase::blockRecordId(int index)
+{
+    return index >= 0 && index < numBlockRecords() ? OdDbObjectId(this, index) : OdDbObjectId();
+}
+
+OdDbObjectPtr OdDbDatabase::objectAt(int index) const
+{
+    if (index < 0 || index >= numBlockRecords())
+        return {};
+    return OdDbObjectPtr(m_blocks[static_cast<std::size_t>(index)].get());
+}
+
+void OdDbDatabase::readBlocks()
+{
+    bool inBlocks = false;
+    std::size_t blockStart = m_groups.size();
+    for (std::size_t at = 0; at < m_groups.size(); ++at) {
+        const OdDxfGroup& group = m_groups[at];
+        if (group.code() != 0)
+            continue;
+        if (blockStart < at)
+            addBlock(blockStart, at);
+        blockStart = m_groups.size();
+        if (group.isStart("ENDSEC"))
+            inBlocks = false;
+        else if (group.isStart("SECTION") && at + 1 < m_groups.size())
+            inBlocks =
+                m_groups[at + 1].code() == 2 && m_groups[at + 1].value().trimmed() == "BLOCKS";
+        else if (inBlocks && group.isStart("BLOCK"))
+            blockStart = at + 1;
+    }
+}
+
+void OdDbDatabase::addBlock(std::size_t begin, std::size_t end)
+{
+    const OdDbObjectId id(this, numBlockRecords());
+    m_blocks.emplace_back(new OdRxObjectImpl<BlockRecord>(id, BlockGroups(m_groups, begin, end)));
+}

@@ -1,0 +1,20 @@
+#include "OdRxSystemServices.h"
+
+#include "OdFileStreamBuf.h"
+
+OdRxSystemServices::OdRxSystemServices() = default;
+
+OdRxSystemServices::~OdRxSystemServices() = default;
+
+OdStreamBufPtr OdRxSystemServices::createFile(const OdString& path, Oda::FileAccessMode access,
+                                              Oda::FileShareMode share,
+                                              Oda::FileCreationDisposition disposition)
+{
+    return OdFileStreamBuf::open(QString::fromStdWString(path.wide()), access, share, disposition);
+}
+
+OdRxSystemServices* odSystemServices()
+{
+    static OdRxSystemServices services;
+    return &services;
+}

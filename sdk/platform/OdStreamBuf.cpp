@@ -1,0 +1,3 @@
+#include "OdStreamBuf.h"
+
+OdStreamBuf::~OdStreamBuf() = default;
