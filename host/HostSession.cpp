@@ -4,12 +4,10 @@
 #include "HostWindow.h"
 
 #include <QCoreApplication>
-#include <QEventLoop>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QSettings>
-#include <QTimer>
 
 #include <CFxCommandContext.h>
 #include <CFxRegistry.h>
@@ -17,11 +15,15 @@
 #include <CFxUI.h>
 #include <CFxUIJsonReader.h>
 #include <CFxUIJsonWriter.h>
+#include <OdDbDatabase.h>
 #include <OdEdCommandStack.h>
 #include <OdError.h>
 #include <OdEventLog.h>
 #include <OdRxDynamicLinker.h>
 #include <OdStaticRxObject.h>
+
+#include <cstdio>
+#include <utility>
 
 namespace {
 OdString toOd(const QString& text)
@@ -63,6 +65,7 @@ void HostSession::start()
     if (!m_options.registryFile.isEmpty())
         CFxRegistry::setStandInFile(QFileInfo(m_options.registryFile).absoluteFilePath());
     loadUiProfile();
+    m_viewerCalls.listen();
     for (const QString& module : m_options.modules)
         loadModule(module);
 }
@@ -176,7 +179,15 @@ void HostSession::openDocument(const QString& path)
     const QFileInfo file(path);
     if (!file.isFile())
         throw HostError(QStringLiteral("cannot open %1: no such file").arg(path));
-    GetFxSystemServices()->GetDocumentManager()->OpenDocument(file.absoluteFilePath());
+    OdDbDatabasePtr database;
+    try {
+        database = OdDbDatabase::readFile(toOd(file.absoluteFilePath()));
+    } catch (const OdError& error) {
+        std::fprintf(stderr, "quillon-host: warning: %s; it opens as a drawing never saved\n",
+                     qUtf8Printable(toQt(error.description())));
+    }
+    GetFxSystemServices()->GetDocumentManager()->OpenDocument(file.absoluteFilePath(),
+                                                              std::move(database));
 }
 
 void HostSession::activateDocument(int index)
@@ -193,7 +204,9 @@ void HostSession::closeDocument(int index)
 
 void HostSession::runCommandLine(const QString& name, const QStringList& answers)
 {
-    OdStaticRxObject<CFxCommandContext> context(answers, nullptr);
+    const CFxDocument* active = ACTIVE_DOCUMENT;
+    OdStaticRxObject<CFxCommandContext> context(answers,
+                                                active ? active->GetFxDatabase() : nullptr);
     bool found = false;
     try {
         found = odedRegCmds()->executeCommand(toOd(name), &context);
@@ -227,9 +240,7 @@ void HostSession::reportCommands()
 
 void HostSession::waitEvents()
 {
-    QEventLoop loop;
-    QTimer::singleShot(100, &loop, &QEventLoop::quit);
-    loop.exec();
+    m_viewerCalls.flush();
 }
 
 void HostSession::screenshot(const QString& path)

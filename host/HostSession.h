@@ -1,6 +1,7 @@
 #pragma once
 
 #include "HostOptions.h"
+#include "ViewerCallListener.h"
 
 #include <QDir>
 #include <QStringList>
@@ -22,7 +23,8 @@ public:
     HostSession(const HostSession&) = delete;
     HostSession& operator=(const HostSession&) = delete;
 
-    // Configures the kernel's services and the linker, and loads the start modules.
+    // Configures the kernel's services and the linker, listens for the viewers, and loads the
+    // start modules.
     void start();
     // With handlers, the main window is shown: its user types command lines, and when it
     // goes (closed by its user or destroyed by a statement) `windowGone` is called. Without
@@ -36,12 +38,15 @@ public:
     void destroyMainFrame();
     void loadModule(const QString& name);
     void unloadModule(const QString& name);
+    // Opens the file `path` as a document, with the drawing read from it; a file that is not a
+    // readable drawing opens without one (a warning on standard error says why).
     void openDocument(const QString& path);
     void activateDocument(int index);
     void closeDocument(int index);
     void runCommandLine(const QString& name, const QStringList& answers);
     void reportUi();
     void reportCommands();
+    // Lets queued events and the viewers' announcements arrive.
     void waitEvents();
     // Saves a picture of the main window as PNG.
     void screenshot(const QString& path);
@@ -65,4 +70,5 @@ private:
     std::unique_ptr<HostWindow, WindowDeleter> m_mainFrame;
     std::function<void(const QString&)> m_onCommandLine;
     std::function<void()> m_onClose;
+    ViewerCallListener m_viewerCalls;
 };

@@ -3,6 +3,7 @@
 #include <OdEventLog.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 void reportReactorEvent(const char* event, const OdEventFields& extra = {})
@@ -46,9 +47,10 @@ bool CFxDocumentManager::HasReactor(const CFxDocumentManagerReactor* reactor) co
     return m_reactors.contains(reactor);
 }
 
-CFxDocument* CFxDocumentManager::OpenDocument(const QString& pathName)
+CFxDocument* CFxDocumentManager::OpenDocument(const QString& pathName, OdDbDatabasePtr database)
 {
-    m_documents.push_back(std::make_unique<CFxDocument>(++m_lastIndex, pathName));
+    m_documents.push_back(
+        std::make_unique<CFxDocument>(++m_lastIndex, pathName, std::move(database)));
     CFxDocument* document = m_documents.back().get();
     reportDocumentEvent("document-opened", document);
     m_reactors.notify(

@@ -22,8 +22,9 @@ public:
     void RemoveReactor(CFxDocumentManagerReactor* reactor);
     bool HasReactor(const CFxDocumentManagerReactor* reactor) const;
 
-    // Opens `pathName` as a new document and makes it the active one.
-    CFxDocument* OpenDocument(const QString& pathName);
+    // Opens `pathName` as a new document, holding `database` (null for a file that is not a
+    // drawing), and makes it the active one.
+    CFxDocument* OpenDocument(const QString& pathName, OdDbDatabasePtr database = {});
     // Both return false when no open document has that number.
     bool ActivateDocument(int index);
     bool CloseDocument(int index);
