@@ -1,5 +1,9 @@
 #include "CFxViewcast.h"
 
+#include "publish/ViewcastPublisher.h"
+
+#include <OdEdCommandContext.h>
+
 const OdString CFxViewcast::globalName() const
 {
     return OdString(L"_VIEWCAST");
@@ -10,7 +14,7 @@ const OdString CFxViewcast::localName() const
     return OdString(L"VIEWCAST");
 }
 
-int CFxViewcast::runCommand(OdEdCommandContext*)
+int CFxViewcast::runCommand(OdEdCommandContext* context)
 {
-    return RTNORM;
+    return ViewcastPublisher(ViewerAutomation::create()).publish(context->baseDatabase());
 }

@@ -33,7 +33,9 @@ HostResult HostProcess::run(const QStringList& arguments, int timeoutMs)
     QProcess process;
     process.setProcessEnvironment(m_environment);
     process.setWorkingDirectory(home());
-    process.start(program(), QStringList{QStringLiteral("--json")} + arguments);
+    const QStringList command =
+        m_launcher + QStringList{program(), QStringLiteral("--json")} + arguments;
+    process.start(command.first(), command.mid(1));
     HostResult result;
     if (!process.waitForFinished(timeoutMs)) {
         process.kill();

@@ -25,6 +25,9 @@ public:
     const HomeFolders& folders() const { return m_folders; }
     QString home() const { return m_folders.root(); }
     void setEnvironment(const QString& name, const QString& value);
+    // Runs quillon-host through `launcher` (a program and its arguments, the host's command
+    // line following them), for example a private session bus's dbus-run-session.
+    void setLauncher(const QStringList& launcher) { m_launcher = launcher; }
 
     HostResult run(const QStringList& arguments, int timeoutMs = 60000);
     HostResult runScript(const QString& script, const QStringList& arguments = {});
@@ -36,4 +39,5 @@ private:
     QTemporaryDir m_temporary;
     HomeFolders m_folders;
     QProcessEnvironment m_environment;
+    QStringList m_launcher;
 };

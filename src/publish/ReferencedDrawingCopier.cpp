@@ -1,0 +1,64 @@
+#include "ReferencedDrawingCopier.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <OdDbBlockTableRecord.h>
+#include <OdDbDatabase.h>
+#include <OdDbXrefGraph.h>
+
+#include <utility>
+
+namespace {
+QString toQt(const OdString& text)
+{
+    return QString::fromStdWString(text.wide());
+}
+} // namespace
+
+ReferencedDrawingCopier::ReferencedDrawingCopier(QString folder) : m_folder(std::move(folder)) {}
+
+void ReferencedDrawingCopier::copyReferencesOf(OdDbDatabase* database)
+{
+    OdDbXrefGraph graph;
+    OdDbXrefGraph::getFrom(database, graph);
+    if (const OdDbGraphNode* root = graph.rootNode())
+        copyFrom(root);
+}
+
+void ReferencedDrawingCopier::copyFrom(const OdDbGraphNode* node)
+{
+    for (int index = 0; index < node->numOut(); ++index) {
+        const OdDbGraphNode* referenced = node->out(index);
+        if (!m_visited.insert(referenced).second)
+            continue;
+        copy(referenced);
+        copyFrom(referenced);
+    }
+}
+
+void ReferencedDrawingCopier::copy(const OdDbGraphNode* node) const
+{
+    const auto* xrefNode = dynamic_cast<const OdDbXrefGraphNode*>(node);
+    if (!xrefNode)
+        return;
+    const OdDbBlockTableRecordPtr record =
+        OdDbBlockTableRecord::cast(xrefNode->btrId().openObject());
+    if (!record)
+        return;
+    const QString source = referencedFile(*record);
+    // QFile::copy never replaces an existing file.
+    QFile::copy(source, m_folder + QLatin1Char('/') + QFileInfo(source).fileName());
+}
+
+QString ReferencedDrawingCopier::referencedFile(const OdDbBlockTableRecord& record)
+{
+    QString path = toQt(record.pathName());
+    // Drawings made on Windows separate folders with "\".
+    path.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    if (QDir::isAbsolutePath(path) || !record.database())
+        return path;
+    const QFileInfo referring(toQt(record.database()->getFilename()));
+    return QDir(referring.absolutePath()).absoluteFilePath(path);
+}

@@ -1,0 +1,154 @@
+#include "ViewcastPublisher.h"
+
+#include "ReferencedDrawingCopier.h"
+#include "ViewerVersion.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QObject>
+
+#include <CFxCommand.h>
+#include <CFxRegistry.h>
+#include <CFxSystemServices.h>
+#include <OdDbDatabase.h>
+#include <OdRxSystemServices.h>
+#include <TarnTaskPane.h>
+#include <VcModelViewerAutomation.h>
+
+#include <utility>
+
+namespace {
+// Texts that Qt may keep (settings keys, paths) are made on the heap, never from a literal of
+// this module: the module can be unloaded while Qt still holds them.
+QString text(const char* latin1)
+{
+    return QString::fromLatin1(latin1);
+}
+
+QString toQt(const OdString& value)
+{
+    return QString::fromStdWString(value.wide());
+}
+
+OdString toOd(const QString& value)
+{
+    return OdString(value.toStdWString());
+}
+
+// The format version code the host has always written its drawings with.
+constexpr int kDrawingVersionCode = 27;
+constexpr int kDxfPrecision = 16;
+} // namespace
+
+ViewcastPublisher::ViewcastPublisher(std::unique_ptr<ViewerAutomation> automation)
+    : m_automation(std::move(automation))
+{}
+
+int ViewcastPublisher::publish(OdRxObject* commandDatabase)
+{
+    const int newest = registeredVersion();
+    if (newest < VcModelViewerAutomation::firstVersion || !findServer(newest)) {
+        showViewerNotice();
+        return RTNORM;
+    }
+    const QString folder = scratchFolder();
+    const OdDbDatabasePtr database = OdDbDatabase::cast(commandDatabase);
+    const QFileInfo drawing(database ? toQt(database->getFilename()) : QString());
+    const QString copyPath = folder + QLatin1Char('/') + drawing.fileName();
+    if (!saveCopy(database.get(), copyPath)) {
+        showError();
+        return RTNORM;
+    }
+    copyAndOpen(database.get(), folder, copyPath, drawing.baseName() + text(".vcst"));
+    return RTNORM;
+}
+
+int ViewcastPublisher::registeredVersion()
+{
+    const auto key =
+        CFxRegistry::openKey(text("HKEY_CLASSES_ROOT\\VcModelViewer.VcstViewer\\CurVer"));
+    return viewerVersion(key->value(text("Default")).toString());
+}
+
+bool ViewcastPublisher::findServer(int newest)
+{
+    for (int version = newest; version >= VcModelViewerAutomation::firstVersion; --version) {
+        const QString identifier =
+            text(VcModelViewerAutomation::identifierPrefix) + QString::number(version);
+        if (m_automation->isCreatable(identifier)) {
+            m_version = version;
+            m_identifier = identifier;
+            return true;
+        }
+    }
+    return false;
+}
+
+QString ViewcastPublisher::scratchFolder()
+{
+    const QString name = text("temp_tarn");
+    QDir home(QDir::homePath());
+    // Only an empty folder goes; one that still holds files stays, with its files.
+    home.rmdir(name);
+    home.mkdir(name);
+    return QDir::homePath() + QLatin1Char('/') + name;
+}
+
+bool ViewcastPublisher::saveCopy(OdDbDatabase* database, const QString& path)
+{
+    if (!database)
+        return false;
+    try {
+        OdStreamBufPtr stream = odSystemServices()->createFile(
+            toOd(path), Oda::kFileWrite, Oda::kShareDenyNo, Oda::kCreateAlways);
+        database->writeFile(stream.get(), OdDb::kDwg,
+                            static_cast<OdDb::DwgVersion>(kDrawingVersionCode), true,
+                            kDxfPrecision);
+    } catch (...) {
+        return false;
+    }
+    return true;
+}
+
+void ViewcastPublisher::copyAndOpen(OdDbDatabase* database, const QString& folder,
+                                    const QString& copyPath, const QString& viewerName)
+{
+    try {
+        ReferencedDrawingCopier(folder).copyReferencesOf(database);
+        openInViewer(openArguments(copyPath, viewerName));
+    } catch (...) {
+        showError();
+    }
+}
+
+void ViewcastPublisher::openInViewer(const ViewerOpenArguments& arguments)
+{
+    const bool opened = m_version == VcModelViewerAutomation::firstVersion
+                            ? m_automation->openThroughInterface(m_identifier, arguments)
+                            : m_automation->openThroughDispatch(m_identifier, arguments);
+    if (!opened)
+        showViewerNotice();
+}
+
+ViewerOpenArguments ViewcastPublisher::openArguments(const QString& copyPath,
+                                                     const QString& viewerName)
+{
+    // The viewer takes 8-bit text: Latin-1, so a character beyond it arrives as "?". The two
+    // texts stay empty and the two flags set.
+    ViewerOpenArguments arguments;
+    arguments.path = QDir::toNativeSeparators(copyPath).toLatin1();
+    arguments.viewerName = viewerName.toLatin1();
+    return arguments;
+}
+
+void ViewcastPublisher::showViewerNotice()
+{
+    TarnTaskPane().showViewcastMeassage();
+}
+
+void ViewcastPublisher::showError()
+{
+    GetFxSystemServices()->FxMessageBox(
+        CFxString(QObject::tr("Can not publish this document to Viewcast")),
+        CFxString(QObject::tr("Error")), 0);
+}

@@ -1,0 +1,48 @@
+#!/usr/bin/python3
+"""Writes the drawings that the publishing tests open, with ezdxf, into the folder given:
+
+    site/plan.dxf         a small floor plan without references
+    tree/main.dxf         references parts/a.dxf and missing.dxf (which is not there)
+    tree/parts/a.dxf      references ../shared/b.dxf and, by its absolute path, tree/c.dxf
+    tree/shared/b.dxf     references ../main.dxf and ..\\parts\\a.dxf: both circular
+    tree/c.dxf            a drawing without references
+"""
+import pathlib
+import sys
+
+import ezdxf
+
+
+def new_drawing(label: str):
+    doc = ezdxf.new("R2010")
+    msp = doc.modelspace()
+    msp.add_lwpolyline([(0, 0), (12, 0), (12, 8), (0, 8)], close=True)
+    msp.add_line((7, 0), (7, 8))
+    msp.add_circle((3, 3), radius=1.5)
+    msp.add_text(label, height=0.5).set_placement((1, 7))
+    return doc
+
+
+def save(path: pathlib.Path, label: str, references=()) -> None:
+    doc = new_drawing(label)
+    for name, target in references:
+        doc.add_xref_def(target, name)
+        doc.modelspace().add_blockref(name, (20, 0))
+    path.parent.mkdir(parents=True, exist_ok=True)
+    doc.saveas(path)
+
+
+def main() -> None:
+    if len(sys.argv) != 2:
+        sys.exit("usage: make-drawings.py FOLDER")
+    out = pathlib.Path(sys.argv[1]).resolve()
+    tree = out / "tree"
+    save(out / "site" / "plan.dxf", "PLAN")
+    save(tree / "main.dxf", "MAIN", [("PARTA", "parts/a.dxf"), ("GONE", "missing.dxf")])
+    save(tree / "parts" / "a.dxf", "A", [("SHARED", "../shared/b.dxf"), ("DETAIL", str(tree / "c.dxf"))])
+    save(tree / "shared" / "b.dxf", "B", [("BACK", "../main.dxf"), ("AGAIN", "..\\parts\\a.dxf")])
+    save(tree / "c.dxf", "C")
+
+
+if __name__ == "__main__":
+    main()
