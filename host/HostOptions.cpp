@@ -3,6 +3,7 @@
 #include "HostError.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 
 namespace {
 int parseInteger(const QString& text, const QString& option)
@@ -22,6 +23,20 @@ void parseProductVersion(const QString& text, int (&version)[4])
             QStringLiteral("--product-version takes four numbers A.B.C.D, not '%1'").arg(text));
     for (int i = 0; i < 4; ++i)
         version[i] = parseInteger(parts[i], QStringLiteral("product-version"));
+}
+
+// QCommandLineParser takes the program's name from QCoreApplication's arguments, and the host
+// reads its options before it creates its application (the locale must be set first): help
+// is written with a short-lived application of its own.
+QString helpTextOf(const QCommandLineParser& parser)
+{
+    if (QCoreApplication::instance())
+        return parser.helpText();
+    int argc = 1;
+    char program[] = "quillon-host";
+    char* argv[] = {program, nullptr};
+    const QCoreApplication application(argc, argv);
+    return parser.helpText();
 }
 
 void defineOptions(QCommandLineParser& parser)
@@ -78,7 +93,7 @@ HostOptions HostOptions::parse(const QStringList& arguments, QString& helpText, 
     if (!parser.parse(QStringList{QStringLiteral("quillon-host")} + arguments))
         throw HostError(parser.errorText());
     if (parser.isSet(QStringLiteral("help")) || parser.isSet(QStringLiteral("version"))) {
-        helpText = parser.isSet(QStringLiteral("help")) ? parser.helpText()
+        helpText = parser.isSet(QStringLiteral("help")) ? helpTextOf(parser)
                                                         : QStringLiteral("quillon-host 1.0.0\n");
         exitEarly = true;
         return {};

@@ -11,7 +11,10 @@ EventRecorder::~EventRecorder()
 
 void EventRecorder::hostEvent(const QString& name, const OdEventFields& fields)
 {
-    RecordedEvent event{name, {}};
+    // A deep copy: the name may be a QStringLiteral whose text lives in a module's library,
+    // and the event outlives the module when the library is unloaded. (The fields are
+    // copied into the JSON object's own storage.)
+    RecordedEvent event{QString(name.constData(), name.size()), {}};
     for (const auto& field : fields)
         event.fields.insert(field.first, field.second);
     m_events.append(event);

@@ -28,13 +28,12 @@ QString HostProcess::program()
     return stageFolder() + QStringLiteral("/quillon-host");
 }
 
-HostResult HostProcess::run(const QStringList& arguments, int timeoutMs)
+HostResult HostProcess::execute(const QStringList& arguments, int timeoutMs)
 {
     QProcess process;
     process.setProcessEnvironment(m_environment);
     process.setWorkingDirectory(home());
-    const QStringList command =
-        m_launcher + QStringList{program(), QStringLiteral("--json")} + arguments;
+    const QStringList command = m_launcher + QStringList{program()} + arguments;
     process.start(command.first(), command.mid(1));
     HostResult result;
     if (!process.waitForFinished(timeoutMs)) {
@@ -45,16 +44,26 @@ HostResult HostProcess::run(const QStringList& arguments, int timeoutMs)
     }
     result.exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
     result.standardError = QString::fromUtf8(process.readAllStandardError());
-    for (const QByteArray& line : process.readAllStandardOutput().split('\n')) {
-        if (line.trimmed().isEmpty())
-            continue;
-        QJsonObject fields = QJsonDocument::fromJson(line).object();
+    result.output =
+        QString::fromUtf8(process.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
+    return result;
+}
+
+HostResult HostProcess::run(const QStringList& arguments, int timeoutMs)
+{
+    HostResult result = execute(QStringList{QStringLiteral("--json")} + arguments, timeoutMs);
+    for (const QString& line : result.output) {
+        QJsonObject fields = QJsonDocument::fromJson(line.toUtf8()).object();
         const QString name = fields.take(QStringLiteral("event")).toString();
         result.events.append(
-            {name.isEmpty() ? QStringLiteral("<not json: %1>").arg(QString::fromUtf8(line)) : name,
-             fields});
+            {name.isEmpty() ? QStringLiteral("<not json: %1>").arg(line) : name, fields});
     }
     return result;
+}
+
+HostResult HostProcess::runReadable(const QStringList& arguments, int timeoutMs)
+{
+    return execute(arguments, timeoutMs);
 }
 
 HostResult HostProcess::runScript(const QString& script, const QStringList& arguments)

@@ -11,6 +11,8 @@
 struct HostResult
 {
     int exitCode = -1;
+    // The lines of standard output, and the events read from them (in a run with --json).
+    QStringList output;
     RecordedEvents events;
     QString standardError;
 };
@@ -31,11 +33,15 @@ public:
 
     HostResult run(const QStringList& arguments, int timeoutMs = 60000);
     HostResult runScript(const QString& script, const QStringList& arguments = {});
+    // Runs without --json: the output is the host's readable lines.
+    HostResult runReadable(const QStringList& arguments, int timeoutMs = 60000);
 
     static QString stageFolder();
     static QString program();
 
 private:
+    HostResult execute(const QStringList& arguments, int timeoutMs);
+
     QTemporaryDir m_temporary;
     HomeFolders m_folders;
     QProcessEnvironment m_environment;

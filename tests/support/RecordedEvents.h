@@ -28,6 +28,9 @@ public:
     QStringList values(const QString& name, const QString& field) const;
     // "name" or "name:field=value" for each event, for comparing whole sequences.
     QStringList describe(const QStringList& wanted, const QString& field = QString()) const;
+    // One line for each event that `wanted` names: "name" wants the event's name alone,
+    // "name field" its name and the value of that field (numbers, arrays, null as JSON).
+    QStringList timeline(const QStringList& wanted) const;
 
 private:
     QVector<RecordedEvent> m_events;

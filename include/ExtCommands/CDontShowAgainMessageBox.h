@@ -1,0 +1,59 @@
+#pragma once
+
+#include "ExtCommandsExport.h"
+
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QString>
+
+#include <memory>
+
+class QAbstractButton;
+class QSettings;
+
+// A modal message with a "Don't show again" check box. Once the user has ticked the box and
+// confirmed with an accepting button, the message with the same identifier is not shown
+// again. The choice of every identifier is kept in one INI file in the user's data folder,
+// so it outlives the session and is shared by all message boxes of the host.
+//
+// QDialog is a protected base: callers show the box only through execUnlessSuppressed(), so
+// none can show a message that the user has silenced, while a derived message box still has
+// the whole dialog at hand. A derived box overrides buttonHelp() and buttonClicked(); the
+// form's widgets can be found by their object names "label", "checkBox" and "buttonBox".
+class EXTCOMMANDS_EXPORT CDontShowAgainMessageBox : protected QDialog
+{
+    Q_OBJECT
+
+public:
+    CDontShowAgainMessageBox(const QString& id, const QString& message,
+                             QDialogButtonBox::StandardButtons buttons, QWidget* parent = nullptr);
+    ~CDontShowAgainMessageBox() override;
+
+    // Shows the box and returns QDialog::Accepted or QDialog::Rejected; returns 0 at once,
+    // without showing anything, when the user has silenced this message.
+    int execUnlessSuppressed();
+
+protected Q_SLOTS:
+    // Stores the check box state for this message, then accepts.
+    virtual void buttonAccept();
+    // Rejects; a ticked check box is not stored.
+    virtual void buttonReject();
+    // Do nothing here; derived message boxes override them.
+    virtual void buttonHelp();
+    virtual void buttonClicked(QAbstractButton* button);
+    // Follows the check box; the state is stored only by buttonAccept().
+    virtual void checkboxStateChanged(int state);
+
+private:
+    // The form generated from the module's .ui file; its definition stays in the module.
+    class Form;
+
+    void setUpForm(const QString& message, QDialogButtonBox::StandardButtons buttons);
+    void connectForm();
+    QString checkedKey() const;
+
+    std::unique_ptr<Form> m_form;
+    int m_checkState;
+    std::unique_ptr<QSettings> m_settings;
+    QString m_id;
+};

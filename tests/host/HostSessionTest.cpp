@@ -1,0 +1,134 @@
+// quillon-host run as a user runs it, read through its events: the module's whole life in a
+// session, the crash-report checks across sessions, output modes and where paths lead.
+#include "HostProcess.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+
+#include <gtest/gtest.h>
+
+namespace {
+void writeFile(const QString& path, const QByteArray& content = {})
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(path);
+    file.write(content);
+}
+
+QStringList openedPaths(const HostResult& result)
+{
+    return result.events.values("document-opened", "path");
+}
+} // namespace
+
+class HostSession : public ::testing::Test
+{
+protected:
+    void SetUp() override { writeFile(host.home() + "/plan.dxf"); }
+
+    HostProcess host;
+};
+
+TEST_F(HostSession, ShowsTheModulesWholeLifeAsEvents)
+{
+    const HostResult result = host.runScript("commands\nmainframe create\nHome\n_Community\n"
+                                             "TUTORIAL\nmainframes create\nopen plan.dxf\n"
+                                             "open plan.dxf\nactivate 1\nclose 2\n"
+                                             "mainframe destroy");
+    ASSERT_EQ(result.exitCode, 0) << qPrintable(result.standardError);
+    const QStringList wanted{
+        "module-loaded module",  "module-unloaded module", "reactor-added kind",
+        "reactor-removed kind",  "command-added name",     "command-removed name",
+        "commands names",        "command-ended name",     "unknown-command name",
+        "companion-call call",   "document-opened index",  "document-activated index",
+        "document-closed index", "mainframe-created",      "mainframe-destroyed"};
+    EXPECT_EQ(result.events.timeline(wanted),
+              QString("module-loaded ExtCommands|reactor-added editor|command-added _Home|"
+                      "command-added _Community|command-added _VIEWCAST|"
+                      "companion-call getRegVersion|reactor-added document-manager|"
+                      R"(commands ["Home","Community","VIEWCAST"]|mainframe-created|)"
+                      "command-ended Home|command-ended _Community|unknown-command TUTORIAL|"
+                      "unknown-command mainframes|document-opened 1|document-activated 1|"
+                      "companion-call initialCheckOnInstall|companion-call setRegVersion|"
+                      "reactor-removed document-manager|document-opened 2|"
+                      "document-activated 2|document-activated 1|document-closed 2|"
+                      "mainframe-destroyed|reactor-removed editor|command-removed _Home|"
+                      "command-removed _Community|command-removed _VIEWCAST|"
+                      "module-unloaded ExtCommands")
+                  .split('|'));
+    EXPECT_EQ(result.events.timeline({"command-ended result"}),
+              QStringList({"command-ended 5100", "command-ended 5100"}));
+    EXPECT_EQ(result.events.named("companion-call")[2].fields.value("args").toArray(),
+              QJsonArray({"2026.0.4120"}));
+
+    // The next session of the same version in the same home takes the reminder.
+    const HostResult next = host.runScript("open plan.dxf; open plan.dxf");
+    EXPECT_EQ(next.events.values("companion-call", "call"),
+              QStringList({"getRegVersion", "reminderCheck"}));
+}
+
+TEST_F(HostSession, ModulesComeFromTheModulePathAndTakeTheirAnswersFromTheCommandLine)
+{
+    const HostResult result =
+        host.runScript("PROBE \"two words\"; PROBE; unload ProbeModule; PROBE",
+                       {"--module-path", EC_FIXTURE_DIR, "--module", "ProbeModule"});
+    EXPECT_EQ(result.exitCode, 0) << qPrintable(result.standardError);
+    EXPECT_EQ(result.events.timeline({"probe step", "module-loaded module",
+                                      "module-unloaded module", "command-output text",
+                                      "command-ended result", "unknown-command name"}),
+              QString("probe constructed|module-loaded ProbeModule|probe initApp|"
+                      "command-output probe heard two words|command-ended null|"
+                      "command-output probe heard none|command-ended null|probe uninitApp|"
+                      "probe destroyed|probe static-destroyed|module-unloaded ProbeModule|"
+                      "unknown-command PROBE")
+                  .split('|'));
+}
+
+TEST_F(HostSession, ReadableOutputCarriesTheSameEventsAsJson)
+{
+    const HostResult readable = host.runReadable({"-c", "Home; TUTORIAL"});
+    const HostResult json = host.runScript("Home; TUTORIAL");
+    QStringList statements;
+    QStringList eventNames;
+    for (const QString& line : readable.output)
+        (line.startsWith("> ") ? statements : eventNames) << line.section(' ', 0, 0);
+    EXPECT_EQ(statements, QStringList({">", ">"}));
+    EXPECT_EQ(eventNames, json.events.names());
+    EXPECT_TRUE(readable.output.contains("> TUTORIAL"));
+    EXPECT_TRUE(readable.output.contains("command-ended name=Home result=5100"));
+}
+
+TEST_F(HostSession, HelpAndVersionAreWrittenBeforeAnythingStarts)
+{
+    const HostResult help = host.runReadable({"--help"});
+    EXPECT_EQ(help.exitCode, 0) << qPrintable(help.standardError);
+    ASSERT_FALSE(help.output.isEmpty());
+    EXPECT_EQ(help.output.first(), "Usage: quillon-host [options] [SCRIPT]");
+    for (const char* option : {"--module <NAME>", "--no-module", "--module-path <DIR>",
+                               "--companion-path <DIR>", "--language <ID>", "--locale <NAME>",
+                               "--product-version <A.B.C.D>", "-c <TEXT>", "--json"})
+        EXPECT_TRUE(help.output.join('\n').contains(option)) << option;
+
+    const HostResult version = host.runReadable({"--version", "--module", "Nowhere"});
+    EXPECT_EQ(version.exitCode, 0);
+    EXPECT_EQ(version.output, QStringList({"quillon-host 1.0.0"}));
+}
+
+TEST_F(HostSession, PathsLeadFromTheScriptsFolderTheCurrentFolderOrTheDemoFolder)
+{
+    const QString scripts = host.home() + "/scripts";
+    ASSERT_TRUE(QDir().mkpath(scripts));
+    writeFile(scripts + "/session.qs", "open plan.dxf\n");
+    writeFile(scripts + "/plan.dxf");
+
+    EXPECT_EQ(openedPaths(host.run({scripts + "/session.qs"})),
+              QStringList({scripts + "/plan.dxf"}));
+    EXPECT_EQ(openedPaths(host.runScript("open plan.dxf")),
+              QStringList({host.home() + "/plan.dxf"}));
+
+    const HostResult demo = host.run({});
+    EXPECT_EQ(demo.exitCode, 0) << qPrintable(demo.standardError);
+    const QString demoDrawing = HostProcess::stageFolder() + "/demo/plan.dxf";
+    EXPECT_EQ(openedPaths(demo), QStringList({demoDrawing, demoDrawing}));
+}

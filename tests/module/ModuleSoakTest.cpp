@@ -1,0 +1,73 @@
+// The module loaded, used and unloaded many times in one process, as a host that reloads its
+// modules does: each unload must leave nothing behind that a later notification could reach.
+#include "EventRecorder.h"
+#include "IsolatedHome.h"
+#include "LoadedModule.h"
+#include "TestStrings.h"
+
+#include <QRegExp>
+
+#include <gtest/gtest.h>
+
+#include <CFxCommandContext.h>
+#include <CFxSystemServices.h>
+#include <OdEdCommandStack.h>
+#include <OdEditor.h>
+#include <OdSharedLibrary.h>
+
+namespace {
+int reactorEvents(const RecordedEvents& events, const char* name)
+{
+    return events.values(name, "kind").count("document-manager");
+}
+
+void runHome()
+{
+    OdStaticRxObject<CFxCommandContext> context(QStringList{}, nullptr);
+    odedRegCmds()->executeCommand(OdString(L"Home"), &context);
+}
+} // namespace
+
+TEST(ModuleSoak, AHundredLoadUseUnloadCyclesLeaveNothingBehind)
+{
+    IsolatedHome home;
+    EventRecorder recorder;
+    LoadedModule::useFolder();
+    CFxDocumentManager* documents = GetFxSystemServices()->GetDocumentManager();
+    const int first = documents->OpenDocument(QStringLiteral("/drawings/first.dxf"))->GetIndex();
+    int saved[4] = {};
+    GetFxSystemServices()->GetProductVersion(saved[0], saved[1], saved[2], saved[3]);
+    const std::size_t reactors = odedEditor()->reactorCount();
+    const std::size_t commands = odedRegCmds()->commands().size();
+
+    for (int cycle = 0; cycle < 100; ++cycle) {
+        // A new version at every start: the module compares it with the recorded one.
+        GetFxSystemServices()->SetProductVersion(2017, cycle % 2, 0, cycle);
+        LoadedModule module;
+        const QString path = module.path();
+        if (cycle % 2 == 0) {
+            documents->OpenDocument(QStringLiteral("/drawings/plan%1.dxf").arg(cycle));
+            runHome();
+        }
+        if (cycle % 3 == 0)
+            documents->ActivateDocument(first);
+        ASSERT_TRUE(module.unload()) << "cycle " << cycle;
+        ASSERT_FALSE(OdSharedLibrary::isLoaded(od(path))) << "cycle " << cycle;
+        // Between the cycles nothing of the module may hear of the host's work, and Qt's
+        // process-wide caches may hold nothing that lived in the module's library.
+        documents->ActivateDocument(first);
+        EXPECT_EQ(QString::fromLatin1("2017.1").split(QRegExp(QString::fromLatin1("\\."))).size(),
+                  2);
+        ASSERT_EQ(odedEditor()->reactorCount(), reactors);
+        ASSERT_EQ(odedRegCmds()->commands().size(), commands);
+    }
+    EXPECT_EQ(recorder.events().count("module-unloaded"), 100);
+    EXPECT_EQ(reactorEvents(recorder.events(), "reactor-added"), 100);
+    EXPECT_EQ(reactorEvents(recorder.events(), "reactor-removed"), 100);
+    // The first activation of each run checks once; the module reloaded is a new run.
+    EXPECT_EQ(recorder.events().values("companion-call", "call").count("reminderCheck") +
+                  recorder.events().values("companion-call", "call").count("initialCheckOnInstall"),
+              67);
+    documents->CloseAll();
+    GetFxSystemServices()->SetProductVersion(saved[0], saved[1], saved[2], saved[3]);
+}

@@ -1,0 +1,66 @@
+// Reference rules of platform objects: what a smart pointer holds, when a heap object goes,
+// and that an object owned by value never goes through a release.
+#include <gtest/gtest.h>
+
+#include <OdRxObjectImpl.h>
+#include <OdStaticRxObject.h>
+
+namespace {
+class Tracked : public OdRxObject
+{
+public:
+    explicit Tracked(bool* destroyed) : m_destroyed(destroyed) {}
+    ~Tracked() override { *m_destroyed = true; }
+
+private:
+    bool* m_destroyed;
+};
+} // namespace
+
+TEST(ObjectReferences, SmartPointersHoldOneReferenceEachAndTheLastReleaseDeletes)
+{
+    bool destroyed = false;
+    OdSmartPtr<Tracked> first = OdRxObjectImpl<Tracked>::createObject(&destroyed);
+    Tracked* object = first.get();
+    EXPECT_EQ(object->numRefs(), 1);
+
+    OdSmartPtr<Tracked> copy = first;
+    OdRxObjectPtr base = first;
+    EXPECT_EQ(object->numRefs(), 3);
+
+    OdSmartPtr<Tracked> moved = std::move(copy);
+    EXPECT_TRUE(copy.isNull());
+    EXPECT_EQ(object->numRefs(), 3);
+
+    moved = nullptr;
+    base.release();
+    EXPECT_EQ(object->numRefs(), 1);
+
+    // Attaching takes over a reference that the caller already holds: no count is added.
+    object->addRef();
+    OdSmartPtr<Tracked> attached(object, kOdRxObjAttach);
+    EXPECT_EQ(object->numRefs(), 2);
+    attached.release();
+
+    EXPECT_FALSE(destroyed);
+    first = OdSmartPtr<Tracked>();
+    EXPECT_TRUE(destroyed);
+}
+
+TEST(ObjectReferences, ObjectOwnedByValueIgnoresReferences)
+{
+    bool destroyed = false;
+    {
+        OdStaticRxObject<Tracked> owned(&destroyed);
+        {
+            OdRxObjectPtr first(&owned);
+            OdRxObjectPtr second = first;
+            EXPECT_EQ(owned.numRefs(), 1);
+        }
+        owned.release();
+        owned.release();
+        EXPECT_FALSE(destroyed);
+        EXPECT_EQ(owned.numRefs(), 1);
+    }
+    EXPECT_TRUE(destroyed);
+}
