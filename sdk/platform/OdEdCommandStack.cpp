@@ -62,7 +62,11 @@ void OdEdCommandStack::removeCmd(OdEdCommand* command)
     const auto reactors = m_reactors;
     for (OdEdCommandStackReactor* reactor : reactors)
         reactor->commandWillBeRemoved(command);
-    m_commands.erase(std::find(m_commands.begin(), m_commands.end(), command));
+    // A reactor may have removed the command itself meanwhile.
+    const auto still = std::find(m_commands.begin(), m_commands.end(), command);
+    if (still == m_commands.end())
+        return;
+    m_commands.erase(still);
     reportCommandEvent("command-removed", command);
     command->release();
 }

@@ -155,6 +155,11 @@ OdRxModulePtr OdRxDynamicLinker::openModule(const OdString& name, OdString& erro
                            .arg(moduleName, QString::fromLocal8Bit(failure.what())));
         return OdRxModulePtr();
     }
+    if (!module) {
+        OdSharedLibrary::close(library);
+        error = fromQt(QStringLiteral("module %1 created no module object").arg(moduleName));
+        return OdRxModulePtr();
+    }
     auto entry = std::make_unique<Entry>();
     entry->name = moduleName;
     entry->path = toQt(path);
