@@ -1,6 +1,8 @@
 #include "HostSession.h"
 
 #include "HostError.h"
+#include "TranslationObserver.h"
+#include "UrlRecorder.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -60,8 +62,11 @@ void HostSession::start()
     odrxDynamicLinker()->setSearchPath(searchPath);
     services->SetInstallationId(installationId());
     loadUiProfile();
+    m_urls = std::make_unique<UrlRecorder>();
+    m_translations = std::make_unique<TranslationObserver>();
     for (const QString& module : m_options.modules)
         loadModule(module);
+    m_translations->statementEnded();
 }
 
 QString HostSession::defaultUiProfile()
@@ -200,4 +205,6 @@ void HostSession::settle()
 {
     QCoreApplication::sendPostedEvents();
     odrxDynamicLinker()->unloadUnreferenced();
+    if (m_translations)
+        m_translations->statementEnded();
 }

@@ -9,6 +9,8 @@
 #include <memory>
 
 class QMainWindow;
+class TranslationObserver;
+class UrlRecorder;
 
 // The running host: its system services, its modules, its main window and its documents.
 // Each operation is one thing a user (or a script) can do; a request that cannot be carried
@@ -37,7 +39,8 @@ public:
     void reportUi();
     void reportCommands();
     void waitEvents();
-    // Lets the linker carry out unload requests whose modules are no longer referenced.
+    // Ends a statement: lets the linker carry out unload requests whose modules are no longer
+    // referenced, and reports how the application's language changed.
     void settle();
 
     static QString programFolder();
@@ -48,5 +51,7 @@ private:
     static QUuid installationId();
 
     const HostOptions m_options;
+    std::unique_ptr<UrlRecorder> m_urls;
+    std::unique_ptr<TranslationObserver> m_translations;
     std::unique_ptr<QMainWindow> m_mainFrame;
 };
