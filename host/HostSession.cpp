@@ -2,6 +2,8 @@
 
 #include "HostError.h"
 #include "HostWindow.h"
+#include "TranslationObserver.h"
+#include "UrlRecorder.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -63,8 +65,11 @@ void HostSession::start()
     if (!m_options.registryFile.isEmpty())
         CFxRegistry::setStandInFile(QFileInfo(m_options.registryFile).absoluteFilePath());
     loadUiProfile();
+    m_urls = std::make_unique<UrlRecorder>();
+    m_translations = std::make_unique<TranslationObserver>();
     for (const QString& module : m_options.modules)
         loadModule(module);
+    m_translations->statementEnded();
 }
 
 QString HostSession::defaultUiProfile()
@@ -252,5 +257,7 @@ void HostSession::settle()
     QCoreApplication::sendPostedEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     odrxDynamicLinker()->unloadUnreferenced();
+    if (m_translations)
+        m_translations->statementEnded();
     refreshWindow();
 }

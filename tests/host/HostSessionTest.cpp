@@ -48,12 +48,14 @@ TEST_F(HostSession, ShowsTheModulesWholeLifeAsEvents)
                       "command-added _Community|command-added _VIEWCAST|"
                       "companion-call getRegVersion|reactor-added document-manager|"
                       R"(commands ["Home","Community","VIEWCAST"]|mainframe-created|)"
+                      "command-added _RELEASENOTES|command-added _CHECKFORUPDATES|"
                       "command-ended Home|command-ended _Community|unknown-command TUTORIAL|"
                       "unknown-command mainframes|document-opened 1|document-activated 1|"
                       "companion-call initialCheckOnInstall|companion-call setRegVersion|"
                       "reactor-removed document-manager|document-opened 2|"
                       "document-activated 2|document-activated 1|document-closed 2|"
-                      "mainframe-destroyed|reactor-removed editor|command-removed _Home|"
+                      "mainframe-destroyed|command-removed _CHECKFORUPDATES|"
+                      "command-removed _RELEASENOTES|reactor-removed editor|command-removed _Home|"
                       "command-removed _Community|command-removed _VIEWCAST|"
                       "module-unloaded ExtCommands")
                   .split('|'));

@@ -27,6 +27,8 @@ public:
     const HomeFolders& folders() const { return m_folders; }
     QString home() const { return m_folders.root(); }
     void setEnvironment(const QString& name, const QString& value);
+    // Runs this copy of quillon-host instead of the stage's (a program folder of the test's own).
+    void setProgram(const QString& program);
 
     HostResult run(const QStringList& arguments, int timeoutMs = 60000);
     HostResult runScript(const QString& script, const QStringList& arguments = {});
@@ -42,4 +44,5 @@ private:
     QTemporaryDir m_temporary;
     HomeFolders m_folders;
     QProcessEnvironment m_environment;
+    QString m_program = program();
 };
