@@ -121,6 +121,8 @@ void HostSession::setWindowHandlers(std::function<void(const QString&)> commandL
 {
     m_onCommandLine = std::move(commandLine);
     m_onClose = std::move(windowGone);
+    if (m_urls)
+        m_urls->setForwarding(static_cast<bool>(m_onCommandLine));
 }
 
 void HostSession::createMainFrame()

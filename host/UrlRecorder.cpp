@@ -10,13 +10,23 @@ const char* const kSchemes[] = {"http", "https"};
 
 UrlRecorder::UrlRecorder()
 {
-    for (const char* scheme : kSchemes)
-        QDesktopServices::setUrlHandler(QLatin1String(scheme), this, "openUrl");
+    registerHandlers();
 }
 
 UrlRecorder::~UrlRecorder()
 {
     // Qt keeps a plain pointer to the handler: it must not outlive this object.
+    unregisterHandlers();
+}
+
+void UrlRecorder::registerHandlers()
+{
+    for (const char* scheme : kSchemes)
+        QDesktopServices::setUrlHandler(QLatin1String(scheme), this, "openUrl");
+}
+
+void UrlRecorder::unregisterHandlers()
+{
     for (const char* scheme : kSchemes)
         QDesktopServices::unsetUrlHandler(QLatin1String(scheme));
 }
@@ -24,4 +34,10 @@ UrlRecorder::~UrlRecorder()
 void UrlRecorder::openUrl(const QUrl& url)
 {
     OdEventLog::report(QStringLiteral("url-opened"), {{QStringLiteral("url"), url.toString()}});
+    if (!m_forwarding)
+        return;
+    // Out of the way for the one call, or the desktop would hand the address straight back.
+    unregisterHandlers();
+    QDesktopServices::openUrl(url);
+    registerHandlers();
 }

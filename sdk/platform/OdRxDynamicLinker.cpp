@@ -1,5 +1,6 @@
 #include "OdRxDynamicLinker.h"
 
+#include "OdEdCommandStack.h"
 #include "OdError.h"
 #include "OdEventLog.h"
 #include "OdSharedLibrary.h"
@@ -200,6 +201,7 @@ void OdRxDynamicLinker::unload(std::size_t index)
     m_modules.erase(m_modules.begin() + static_cast<std::ptrdiff_t>(index));
     OdRxModule* module = entry->module;
     module->uninitApp();
+    odedRegCmds()->removeCommandsDefinedIn(fromQt(entry->path));
     OdModuleHandle library =
         entry->library ? entry->library : static_cast<OdModuleHandle>(module->sysData());
     module->deleteModule();

@@ -87,6 +87,21 @@ TEST_F(HostSession, ModulesComeFromTheModulePathAndTakeTheirAnswersFromTheComman
                   .split('|'));
 }
 
+TEST_F(HostSession, CommandsThatAnUnloadedModuleLeftBehindAreTakenOffTheStack)
+{
+    // The Help-menu commands stay registered until the main window goes; unloading the module
+    // before that must not leave the stack pointing into the unloaded library.
+    const HostResult result =
+        host.runScript("mainframe create; unload ExtCommands; CHECKFORUPDATES; commands");
+    EXPECT_EQ(result.exitCode, 0) << qPrintable(result.standardError);
+    EXPECT_EQ(result.events.timeline({"command-removed cause", "module-unloaded module",
+                                      "unknown-command name", "commands names"}),
+              QString("command-removed null|command-removed null|command-removed null|"
+                      "command-removed module-unloaded|command-removed module-unloaded|"
+                      "module-unloaded ExtCommands|unknown-command CHECKFORUPDATES|commands []")
+                  .split('|'));
+}
+
 TEST_F(HostSession, ReadableOutputCarriesTheSameEventsAsJson)
 {
     const HostResult readable = host.runReadable({"-c", "Home; TUTORIAL"});
