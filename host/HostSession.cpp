@@ -2,6 +2,8 @@
 
 #include "HostError.h"
 #include "HostWindow.h"
+#include "TranslationObserver.h"
+#include "UrlRecorder.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -65,9 +67,12 @@ void HostSession::start()
     if (!m_options.registryFile.isEmpty())
         CFxRegistry::setStandInFile(QFileInfo(m_options.registryFile).absoluteFilePath());
     loadUiProfile();
+    m_urls = std::make_unique<UrlRecorder>();
+    m_translations = std::make_unique<TranslationObserver>();
     m_viewerCalls.listen();
     for (const QString& module : m_options.modules)
         loadModule(module);
+    m_translations->statementEnded();
 }
 
 QString HostSession::defaultUiProfile()
@@ -119,6 +124,8 @@ void HostSession::setWindowHandlers(std::function<void(const QString&)> commandL
 {
     m_onCommandLine = std::move(commandLine);
     m_onClose = std::move(windowGone);
+    if (m_urls)
+        m_urls->setForwarding(static_cast<bool>(m_onCommandLine));
 }
 
 void HostSession::createMainFrame()
@@ -263,5 +270,7 @@ void HostSession::settle()
     QCoreApplication::sendPostedEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     odrxDynamicLinker()->unloadUnreferenced();
+    if (m_translations)
+        m_translations->statementEnded();
     refreshWindow();
 }

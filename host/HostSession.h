@@ -11,6 +11,8 @@
 #include <memory>
 
 class HostWindow;
+class TranslationObserver;
+class UrlRecorder;
 
 // The running host: its system services, its modules, its main window and its documents.
 // Each operation is one thing a user (or a script) can do; a request that cannot be carried
@@ -50,7 +52,8 @@ public:
     void waitEvents();
     // Saves a picture of the main window as PNG.
     void screenshot(const QString& path);
-    // Lets the linker carry out unload requests whose modules are no longer referenced.
+    // Ends a statement: lets the linker carry out unload requests whose modules are no longer
+    // referenced, reports how the application's language changed, and shows the window anew.
     void settle();
 
     HostWindow* mainFrame() const { return m_mainFrame.get(); }
@@ -63,6 +66,8 @@ private:
     static QUuid installationId();
 
     const HostOptions m_options;
+    std::unique_ptr<UrlRecorder> m_urls;
+    std::unique_ptr<TranslationObserver> m_translations;
     struct WindowDeleter
     {
         void operator()(HostWindow* window) const;

@@ -3,10 +3,13 @@
 #include "OdEditor.h"
 #include "OdError.h"
 #include "OdEventLog.h"
+#include "OdSharedLibrary.h"
 
+#include <QFileInfo>
 #include <QString>
 
 #include <algorithm>
+#include <typeinfo>
 
 namespace {
 QString toQt(const OdString& text)
@@ -14,11 +17,18 @@ QString toQt(const OdString& text)
     return QString::fromStdWString(text.wide());
 }
 
-void reportCommandEvent(const char* event, const OdEdCommand* command)
+void reportCommandEvent(const char* event, const OdEdCommand* command,
+                        const OdEventFields& extra = {})
 {
-    OdEventLog::report(QString::fromLatin1(event),
-                       {{QStringLiteral("name"), toQt(command->globalName())},
-                        {QStringLiteral("local"), toQt(command->localName())}});
+    OdEventFields fields{{QStringLiteral("name"), toQt(command->globalName())},
+                         {QStringLiteral("local"), toQt(command->localName())}};
+    fields += extra;
+    OdEventLog::report(QString::fromLatin1(event), fields);
+}
+
+QString canonical(const OdString& path)
+{
+    return QFileInfo(toQt(path)).canonicalFilePath();
 }
 
 bool sameName(const OdString& a, const OdString& b)
@@ -62,7 +72,11 @@ void OdEdCommandStack::removeCmd(OdEdCommand* command)
     const auto reactors = m_reactors;
     for (OdEdCommandStackReactor* reactor : reactors)
         reactor->commandWillBeRemoved(command);
-    m_commands.erase(std::find(m_commands.begin(), m_commands.end(), command));
+    // A reactor may have removed the command itself meanwhile.
+    const auto still = std::find(m_commands.begin(), m_commands.end(), command);
+    if (still == m_commands.end())
+        return;
+    m_commands.erase(still);
     reportCommandEvent("command-removed", command);
     command->release();
 }
@@ -70,6 +84,21 @@ void OdEdCommandStack::removeCmd(OdEdCommand* command)
 void OdEdCommandStack::removeCmd(const OdString& groupName, const OdString& globalName)
 {
     removeCmd(lookupCmd(globalName, kGlobal, groupName));
+}
+
+void OdEdCommandStack::removeCommandsDefinedIn(const OdString& libraryPath)
+{
+    const QString library = canonical(libraryPath);
+    const std::vector<OdEdCommand*> commands = m_commands;
+    for (OdEdCommand* command : commands) {
+        // A class's type information lives in the library that defines the class.
+        if (canonical(OdSharedLibrary::fileContaining(&typeid(*command))) != library)
+            continue;
+        m_commands.erase(std::find(m_commands.begin(), m_commands.end(), command));
+        reportCommandEvent("command-removed", command,
+                           {{QStringLiteral("cause"), QStringLiteral("module-unloaded")}});
+        command->release();
+    }
 }
 
 OdEdCommand* OdEdCommandStack::lookupCmd(const OdString& name, int flags,

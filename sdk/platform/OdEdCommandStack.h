@@ -31,6 +31,9 @@ public:
     void addCommand(OdEdCommand* command);
     void removeCmd(OdEdCommand* command);
     void removeCmd(const OdString& groupName, const OdString& globalName);
+    // Takes off every command whose class the library at `libraryPath` defines: what a module
+    // being unloaded left on the stack would otherwise point into unmapped code.
+    void removeCommandsDefinedIn(const OdString& libraryPath);
     // Looks a command up by its global and/or local name (flags), in one group or, with an
     // empty group name, in all of them; the first added wins.
     OdEdCommand* lookupCmd(const OdString& name, int flags = kGlobal | kLocal,

@@ -1,5 +1,6 @@
 #include "OdRxDynamicLinker.h"
 
+#include "OdEdCommandStack.h"
 #include "OdError.h"
 #include "OdEventLog.h"
 #include "OdSharedLibrary.h"
@@ -155,6 +156,11 @@ OdRxModulePtr OdRxDynamicLinker::openModule(const OdString& name, OdString& erro
                            .arg(moduleName, QString::fromLocal8Bit(failure.what())));
         return OdRxModulePtr();
     }
+    if (!module) {
+        OdSharedLibrary::close(library);
+        error = fromQt(QStringLiteral("module %1 created no module object").arg(moduleName));
+        return OdRxModulePtr();
+    }
     auto entry = std::make_unique<Entry>();
     entry->name = moduleName;
     entry->path = toQt(path);
@@ -195,6 +201,7 @@ void OdRxDynamicLinker::unload(std::size_t index)
     m_modules.erase(m_modules.begin() + static_cast<std::ptrdiff_t>(index));
     OdRxModule* module = entry->module;
     module->uninitApp();
+    odedRegCmds()->removeCommandsDefinedIn(fromQt(entry->path));
     OdModuleHandle library =
         entry->library ? entry->library : static_cast<OdModuleHandle>(module->sysData());
     module->deleteModule();

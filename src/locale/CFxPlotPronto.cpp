@@ -1,5 +1,8 @@
 #include "CFxPlotPronto.h"
 
+#include <QDesktopServices>
+#include <QUrl>
+
 const OdString CFxPlotPronto::globalName() const
 {
     return OdString(L"_PLOT_PRONTO");
@@ -12,5 +15,8 @@ const OdString CFxPlotPronto::localName() const
 
 int CFxPlotPronto::runCommand(OdEdCommandContext*)
 {
+    QDesktopServices::openUrl(
+        QUrl(QStringLiteral("http://" EXTCOMMANDS_LABS_HOST "/Projects/PlotPronto/"),
+             QUrl::TolerantMode));
     return RTNORM;
 }

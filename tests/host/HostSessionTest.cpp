@@ -48,12 +48,14 @@ TEST_F(HostSession, ShowsTheModulesWholeLifeAsEvents)
                       "command-added _Community|command-added _VIEWCAST|"
                       "companion-call getRegVersion|reactor-added document-manager|"
                       R"(commands ["Home","Community","VIEWCAST"]|mainframe-created|)"
+                      "command-added _RELEASENOTES|command-added _CHECKFORUPDATES|"
                       "command-ended Home|command-ended _Community|unknown-command TUTORIAL|"
                       "unknown-command mainframes|document-opened 1|document-activated 1|"
                       "companion-call initialCheckOnInstall|companion-call setRegVersion|"
                       "reactor-removed document-manager|document-opened 2|"
                       "document-activated 2|document-activated 1|document-closed 2|"
-                      "mainframe-destroyed|reactor-removed editor|command-removed _Home|"
+                      "mainframe-destroyed|command-removed _CHECKFORUPDATES|"
+                      "command-removed _RELEASENOTES|reactor-removed editor|command-removed _Home|"
                       "command-removed _Community|command-removed _VIEWCAST|"
                       "module-unloaded ExtCommands")
                   .split('|'));
@@ -82,6 +84,21 @@ TEST_F(HostSession, ModulesComeFromTheModulePathAndTakeTheirAnswersFromTheComman
                       "command-output probe heard none|command-ended null|probe uninitApp|"
                       "probe destroyed|probe static-destroyed|module-unloaded ProbeModule|"
                       "unknown-command PROBE")
+                  .split('|'));
+}
+
+TEST_F(HostSession, CommandsThatAnUnloadedModuleLeftBehindAreTakenOffTheStack)
+{
+    // The Help-menu commands stay registered until the main window goes; unloading the module
+    // before that must not leave the stack pointing into the unloaded library.
+    const HostResult result =
+        host.runScript("mainframe create; unload ExtCommands; CHECKFORUPDATES; commands");
+    EXPECT_EQ(result.exitCode, 0) << qPrintable(result.standardError);
+    EXPECT_EQ(result.events.timeline({"command-removed cause", "module-unloaded module",
+                                      "unknown-command name", "commands names"}),
+              QString("command-removed null|command-removed null|command-removed null|"
+                      "command-removed module-unloaded|command-removed module-unloaded|"
+                      "module-unloaded ExtCommands|unknown-command CHECKFORUPDATES|commands []")
                   .split('|'));
 }
 

@@ -121,6 +121,8 @@ TEST_F(DynamicLinker, RefusesWhatItCannotLoadSilentlyOrWithTheReason)
     EXPECT_FALSE(OdSharedLibrary::isLoaded(od(fixture("ForeignApiModule.tx"))));
     EXPECT_TRUE(refusal("NotAModule").contains("is not a platform module"));
     EXPECT_FALSE(OdSharedLibrary::isLoaded(od(fixture("NotAModule.tx"))));
+    EXPECT_TRUE(refusal("EmptyModule").contains("created no module object"));
+    EXPECT_FALSE(OdSharedLibrary::isLoaded(od(fixture("EmptyModule.tx"))));
     EXPECT_EQ(recorder.events().count("module-loaded"), 0);
 
     linker()->setSearchPath({});

@@ -18,6 +18,11 @@ void HostProcess::setEnvironment(const QString& name, const QString& value)
     m_environment.insert(name, value);
 }
 
+void HostProcess::setProgram(const QString& program)
+{
+    m_program = program;
+}
+
 QString HostProcess::stageFolder()
 {
     return QStringLiteral(EC_STAGE_DIR);
@@ -33,7 +38,7 @@ HostResult HostProcess::execute(const QStringList& arguments, int timeoutMs)
     QProcess process;
     process.setProcessEnvironment(m_environment);
     process.setWorkingDirectory(home());
-    const QStringList command = m_launcher + QStringList{program()} + arguments;
+    const QStringList command = m_launcher + QStringList{m_program} + arguments;
     process.start(command.first(), command.mid(1));
     HostResult result;
     if (!process.waitForFinished(timeoutMs)) {

@@ -27,6 +27,8 @@ public:
     const HomeFolders& folders() const { return m_folders; }
     QString home() const { return m_folders.root(); }
     void setEnvironment(const QString& name, const QString& value);
+    // Runs this copy of quillon-host instead of the stage's (a program folder of the test's own).
+    void setProgram(const QString& program);
     // Runs quillon-host through `launcher` (a program and its arguments, the host's command
     // line following them), for example a private session bus's dbus-run-session.
     void setLauncher(const QStringList& launcher) { m_launcher = launcher; }
@@ -45,5 +47,6 @@ private:
     QTemporaryDir m_temporary;
     HomeFolders m_folders;
     QProcessEnvironment m_environment;
+    QString m_program = program();
     QStringList m_launcher;
 };

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+class QTranslator;
+
+// Reports how the application's language changes, as a user would notice it: a new default
+// locale (default-locale) and each translator installed (translator-installed), in the order
+// of installation. Qt announces a translator only when it holds translations, so the
+// installed translators are also looked at after each statement of the host; and because a
+// default locale can be set anew to the value it had, it is reported whenever a statement
+// installs translators.
+class TranslationObserver : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Takes the present state as known: nothing that came before is reported.
+    TranslationObserver();
+
+    // Reports what changed since the last look; the next look belongs to a new statement.
+    void statementEnded();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void look();
+    bool isKnown(const QTranslator* translator) const;
+    static QList<QTranslator*> installedTranslators();
+
+    QList<QPointer<QTranslator>> m_known;
+    QString m_locale;
+    bool m_localeReportedInStatement = false;
+};

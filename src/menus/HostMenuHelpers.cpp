@@ -1,0 +1,124 @@
+#include "HostMenuHelpers.h"
+
+#include <CFxSystemServices.h>
+#include <CFxUI.h>
+
+#include <memory>
+
+namespace {
+CFxUI* hostUI()
+{
+    CFxSystemServices* services = GetFxSystemServices();
+    return services ? services->GetUI() : nullptr;
+}
+
+CFxUIPullDownMenu* helpMenuOf(const CFxUIGroup& group)
+{
+    const CFxUIList<CFxUIPullDownMenu>& menus = group.GetPullDownMenus();
+    for (int index = 0; index < menus.GetCount(); ++index) {
+        CFxUIPullDownMenu* menu = menus.GetAt(index);
+        if (menu->GetIdentifier().compare(HostMenuHelpers::helpMenuIdentifier()) == 0)
+            return menu;
+    }
+    return nullptr;
+}
+
+CFxUIRibbonSystemMenuItem* createSystemMenuItem(CFxUI& ui, const CFxString& menuText,
+                                                const CFxString& macro, bool separator)
+{
+    if (separator)
+        return ui.CreateRibbonSystemMenuItem(CFxUIRibbonSystemMenuItem::separatorIdentifier());
+    CFxUIRibbonSystemMenuItem* item = ui.CreateRibbonSystemMenuItem(CFxString());
+    item->SetText(menuText);
+    CFxUICommand* command = ui.CreateCommand(CFxString(), nullptr);
+    command->SetMacro(macro);
+    item->AttachCommand(command);
+    return item;
+}
+} // namespace
+
+CFxUIPullDownMenu* HostMenuHelpers::findPullDownMenu(const CFxString& identifier)
+{
+    CFxUI* ui = hostUI();
+    CFxUIGroup* reference = ui ? ui->GetReferenceMenuGroup() : nullptr;
+    if (!reference)
+        return nullptr;
+    const std::unique_ptr<CFxUIGroupIterator> groups(ui->NewGroupIterator());
+    for (; !groups->Done(); groups->Next()) {
+        CFxUIGroup* group = groups->Current();
+        if (group == reference)
+            continue;
+        CFxUIPullDownMenu* menu = helpMenuOf(*group);
+        if (menu && menu->GetIdentifier().compare(identifier) == 0)
+            return menu;
+    }
+    return nullptr;
+}
+
+bool HostMenuHelpers::containsItem(const CFxString& menuIdentifier, const CFxString& itemIdentifier)
+{
+    const CFxUIPullDownMenu* menu = findPullDownMenu(menuIdentifier);
+    if (!menu)
+        return false;
+    const CFxUIList<CFxUIMenuEntry>& entries = menu->GetEntries();
+    for (int index = 0; index < entries.GetCount(); ++index) {
+        if (entries.GetAt(index)->GetIdentifier().equalNoCase(itemIdentifier))
+            return true;
+    }
+    return false;
+}
+
+CFxUIMenuEntry* HostMenuHelpers::addPullDownItem(const CFxString& menuText,
+                                                 const CFxString& identifier,
+                                                 const CFxString& macro,
+                                                 const CFxString& statusText, CFxUIGroup* group)
+{
+    if (containsItem(helpMenuIdentifier(), identifier))
+        return nullptr;
+    CFxUI* ui = hostUI();
+    CFxUIPullDownMenu* menu = findPullDownMenu(helpMenuIdentifier());
+    if (!ui || !menu)
+        return nullptr;
+    CFxUIMenuItem* item = ui->CreateMenuItem();
+    item->SetStatusText(statusText);
+    item->SetMenuText(menuText);
+    item->SetIdentifier(identifier);
+    item->SetMacro(macro);
+    CFxUIMenuEntry* entry = ui->CreateMenuEntry(menu);
+    entry->SetText(menuText);
+    entry->BindItem(item);
+    if (group)
+        group->GetMenuItems().Append(item);
+    return entry;
+}
+
+CFxUIGroup* HostMenuHelpers::findItemGroup()
+{
+    CFxUI* ui = hostUI();
+    if (!ui)
+        return nullptr;
+    CFxUIGroup* reference = ui->GetReferenceMenuGroup();
+    const std::unique_ptr<CFxUIGroupIterator> groups(ui->NewGroupIterator());
+    for (; !groups->Done(); groups->Next()) {
+        if (groups->Current()->IsEditable())
+            return groups->Current();
+    }
+    return reference;
+}
+
+void HostMenuHelpers::insertRibbonSystemMenuItem(const CFxString& menuText, const CFxString& macro,
+                                                 bool separator)
+{
+    CFxUI* ui = hostUI();
+    CFxUIRibbonSystemMenuItem* systemMenu = ui ? ui->GetRibbonSystemMenu() : nullptr;
+    if (!systemMenu)
+        return;
+    CFxUIRibbonSystemMenuItem* item = createSystemMenuItem(*ui, menuText, macro, separator);
+    CFxUIList<CFxUIRibbonSystemMenuItem>& items = systemMenu->GetSubItems();
+    for (int index = 0; index < items.GetCount(); ++index) {
+        if (items.GetAt(index)->GetIdentifier().compare(systemMenuAnchor()) == 0) {
+            items.InsertAt(index, item);
+            return;
+        }
+    }
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QStringList>
+
+class CFxUI;
+
+// What the tests ask of a user-interface model, in the form in which the host's ui event
+// writes it (so that in-process and end-to-end tests read it alike).
+class UiModel
+{
+public:
+    explicit UiModel(const QJsonObject& model) : m_model(model) {}
+    static UiModel of(const CFxUI& ui);
+
+    QJsonObject group(const QString& groupId) const;
+    // The entries of the group's menu of that identifier (exactly), by default the Help menu.
+    QJsonArray menuEntries(const QString& groupId, const QString& menuId = helpMenu()) const;
+    QStringList menuEntryIds(const QString& groupId, const QString& menuId = helpMenu()) const;
+    // The Help entry of that identifier as written ("id", "text", "statusText", "macro").
+    QJsonObject helpEntry(const QString& groupId, const QString& entryId) const;
+    // The identifiers of the menu items the group defines.
+    QStringList groupItems(const QString& groupId) const;
+    // The ribbon's system menu, one text per entry: its identifier, or, for an entry without
+    // one, "text -> macro".
+    QStringList systemMenu() const;
+
+private:
+    static QString helpMenu() { return QStringLiteral("ID_MnHelp"); }
+
+    QJsonObject m_model;
+};
