@@ -238,6 +238,36 @@ TEST_F(PublishToViewcast, CopyIsWrittenLosslesslyIntoTheScratchFolderWhereverThe
               openArguments(scratch(QStringLiteral("plan.dxf")), QStringLiteral("plan.vcst")));
 }
 
+TEST_F(PublishToViewcast, ViewerIsGivenLatin1TextSoOtherCharactersArriveAsQuestionMarks)
+{
+    installViewer({10});
+    // The script goes in a file (read as UTF-8) and the host runs in a UTF-8 locale, so that
+    // only the module's own conversion can change the names.
+    m_host.setEnvironment(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    const QString script = m_host.home() + QStringLiteral("/publish.qs");
+    writeFile(script, QStringLiteral("open \"%1\"\nVIEWCAST\nwait-events\nopen \"%2\"\nVIEWCAST\n"
+                                     "wait-events\n")
+                          .arg(drawing(QStringLiteral("site/café.dxf")),
+                               drawing(QStringLiteral("site/平面.dxf")))
+                          .toUtf8());
+    const HostResult result = m_host.run({script, QStringLiteral("--registry"), registryFile(),
+                                          QStringLiteral("--companion-path"),
+                                          QStringLiteral(EC_FIXTURE_DIR "/companions")});
+    ASSERT_EQ(result.exitCode, 0) << result.standardError.toStdString();
+    EXPECT_EQ(
+        result.events.values(QStringLiteral("file-written"), QStringLiteral("path")),
+        (QStringList{scratch(QStringLiteral("café.dxf")), scratch(QStringLiteral("平面.dxf"))}));
+    const auto calls = result.events.named(kViewerCall);
+    ASSERT_EQ(calls.size(), 2);
+    EXPECT_EQ(calls[0].fields.value(QStringLiteral("args")).toArray(),
+              openArguments(scratch(QStringLiteral("café.dxf")), QStringLiteral("café.vcst")));
+    EXPECT_EQ(calls[0].field(QStringLiteral("result")), QStringLiteral("opened"));
+    EXPECT_EQ(calls[1].fields.value(QStringLiteral("args")).toArray(),
+              openArguments(scratch(QStringLiteral("??.dxf")), QStringLiteral("??.vcst")));
+    EXPECT_TRUE(
+        calls[1].field(QStringLiteral("result")).startsWith(QStringLiteral("no such file")));
+}
+
 TEST_F(PublishToViewcast, ScratchFolderWithFilesStaysAndAnEmptyOneIsMadeAnew)
 {
     installViewer({10});

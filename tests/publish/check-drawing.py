@@ -21,12 +21,16 @@ def main() -> int:
     if len(sys.argv) != 3:
         sys.exit("usage: check-drawing.py COPY SOURCE")
     copy, source = sys.argv[1], sys.argv[2]
-    auditor = ezdxf.readfile(copy).audit()
+    try:
+        auditor = ezdxf.readfile(copy).audit()
+        written, original = groups(copy), groups(source)
+    except (OSError, ezdxf.DXFError) as error:
+        print(f"check-drawing.py: {error}")
+        return 1
     if auditor.has_errors:
         for error in auditor.errors:
             print(f"audit: {error.message}")
         return 1
-    written, original = groups(copy), groups(source)
     for index, (a, b) in enumerate(zip(written, original)):
         if a != b:
             print(f"group {index} differs: {a!r} written, {b!r} in the source")

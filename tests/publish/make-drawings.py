@@ -2,6 +2,8 @@
 """Writes the drawings that the publishing tests open, with ezdxf, into the folder given:
 
     site/plan.dxf         a small floor plan without references
+    site/café.dxf, site/平面.dxf
+                          the same plan under names within and beyond Latin-1
     tree/main.dxf         references parts/a.dxf and missing.dxf (which is not there)
     tree/parts/a.dxf      references ../shared/b.dxf and, by its absolute path, tree/c.dxf
     tree/shared/b.dxf     references ../main.dxf and ..\\parts\\a.dxf: both circular
@@ -38,6 +40,8 @@ def main() -> None:
     out = pathlib.Path(sys.argv[1]).resolve()
     tree = out / "tree"
     save(out / "site" / "plan.dxf", "PLAN")
+    save(out / "site" / "café.dxf", "PLAN")
+    save(out / "site" / "平面.dxf", "PLAN")
     save(tree / "main.dxf", "MAIN", [("PARTA", "parts/a.dxf"), ("GONE", "missing.dxf")])
     save(tree / "parts" / "a.dxf", "A", [("SHARED", "../shared/b.dxf"), ("DETAIL", str(tree / "c.dxf"))])
     save(tree / "shared" / "b.dxf", "B", [("BACK", "../main.dxf"), ("AGAIN", "..\\parts\\a.dxf")])
