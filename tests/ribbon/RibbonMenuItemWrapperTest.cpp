@@ -3,11 +3,13 @@
 #include "RibbonHost.h"
 #include "RibbonModel.h"
 
+#include <QJsonArray>
 #include <QMessageLogContext>
 
 #include <gtest/gtest.h>
 
 #include <CFxUI.h>
+#include <CFxUIJsonWriter.h>
 
 #include <memory>
 #include <vector>
@@ -238,6 +240,14 @@ TEST(RibbonLoading, WalksRecordsNestedThousandsDeepAndStopsAtOneThatHoldsItself)
     EXPECT_EQ(button->GetIdentifier().toQString(), QStringLiteral("ID_DEEP_%1").arg(depth - 1));
     EXPECT_EQ(button->GetSubButtons().GetCount(), 0);
     EXPECT_EQ(host.mainGroup().GetCommands().GetCount(), commands + depth + 1);
+
+    // The host writes such a model out as well (its "ui" statement).
+    const QJsonObject model = CFxUIJsonWriter::write(host.ui());
+    QJsonArray buttons = model["groups"][1]["tabs"][3]["panels"][0]["rows"][0]["buttons"].toArray();
+    int written = -1;
+    for (; !buttons.isEmpty(); ++written)
+        buttons = buttons.at(0)["buttons"].toArray();
+    EXPECT_EQ(written, depth);
 }
 
 TEST(RibbonUnloading, RemovesTheButtonAndCommandThenPrunesThePanelAndTheTab)
