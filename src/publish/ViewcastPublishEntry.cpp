@@ -1,12 +1,78 @@
 #include "ViewcastPublishEntry.h"
 
+#include "ribbon/ApplicationMenuSearch.h"
+
+#include <QObject>
+
+#include <CFxSystemServices.h>
+#include <CFxUI.h>
+#include <ExtCommands/ExportTableRibbon.h>
+
+namespace {
+constexpr const wchar_t kAnchorId[] = L"RSMI_10";
+constexpr const wchar_t kEntryId[] = L"RSMI_PUBVIEWCAST";
+
+CFxUICommand* createPublishCommand(CFxUI& ui)
+{
+    CFxUICommand* command = ui.CreateCommand(CFxString(L"ID_PUBVIEWCAST"), nullptr);
+    command->SetMacro(CFxString(L"_VIEWCAST"));
+    command->SetDescription(QObject::tr("Opens the drawings in Viewcast"));
+    command->SetLargeIcon(CFxString(L":/images/BFResources/Resources/vcst_publish_24.png"),
+                          CFxString());
+    // The resource name has always carried the extension twice; the entry keeps it so.
+    command->SetSmallIcon(CFxString(L":/images/BFResources/Resources/vcst_Publish_16.png.png"),
+                          CFxString());
+    return command;
+}
+
+CFxUIRibbonSystemMenuItem* firstSeparator(const CFxUIList<CFxUIRibbonSystemMenuItem>& entries)
+{
+    const CFxString separatorId(CFxUIRibbonSystemMenuItem::separatorIdentifier());
+    for (CFxUIRibbonSystemMenuItem* entry : entries) {
+        if (entry->GetIdentifier().equalNoCase(separatorId))
+            return entry;
+    }
+    return nullptr;
+}
+} // namespace
+
+CFxUIRibbonSystemMenuItem* ViewcastPublishEntry::applicationMenu(CFxUI* ui)
+{
+    const CFxUIGroup* mainGroup = ExportTableRibbon::GetExportTableInstance()->GetMainGroup(ui);
+    return mainGroup ? ApplicationMenuSearch::top(*mainGroup) : nullptr;
+}
+
 void ViewcastPublishEntry::add()
 {
-    // Comes with the publishing work: a separator and the entry "RSMI_PUBVIEWCAST" behind the
-    // application menu's export entry, with its command "ID_PUBVIEWCAST".
+    CFxUI* ui = GetFxSystemServices()->GetUI();
+    CFxUIRibbonSystemMenuItem* menu = applicationMenu(ui);
+    if (!menu)
+        return;
+    CFxUIList<CFxUIRibbonSystemMenuItem>& entries = menu->GetSubItems();
+    CFxUIRibbonSystemMenuItem* anchor =
+        ApplicationMenuSearch::matchOrLast(entries, CFxString(kAnchorId));
+    if (ExportTableRibbon::GetExportTableInstance()->SearchRibbonMenuItem(menu,
+                                                                          CFxString(kEntryId)))
+        return;
+    CFxUICommand* command = createPublishCommand(*ui);
+    CFxUIRibbonSystemMenuItem* separator =
+        ui->CreateRibbonSystemMenuItem(CFxString(CFxUIRibbonSystemMenuItem::separatorIdentifier()));
+    const bool separated = anchor && entries.InsertAfter(anchor, separator);
+    CFxUIRibbonSystemMenuItem* entry = ui->CreateRibbonSystemMenuItem(CFxString(kEntryId));
+    entry->SetText(CFxString(L"Publish Viewcast"));
+    entry->AttachCommand(command);
+    // Without an anchor the entry is made but placed nowhere.
+    if (separated)
+        entries.InsertAfter(separator, entry);
 }
 
 void ViewcastPublishEntry::remove()
 {
-    // Comes with the publishing work: takes the separator and the entry out again.
+    CFxUIRibbonSystemMenuItem* menu = applicationMenu(GetFxSystemServices()->GetUI());
+    if (!menu)
+        return;
+    CFxUIList<CFxUIRibbonSystemMenuItem>& entries = menu->GetSubItems();
+    entries.Remove(firstSeparator(entries));
+    entries.Remove(ExportTableRibbon::GetExportTableInstance()->SearchRibbonMenuItem(
+        menu, CFxString(kEntryId)));
 }
