@@ -7,6 +7,8 @@ OdDbBlockTableRecord::OdDbBlockTableRecord(OdDbObjectId id, OdString name, int f
     : OdDbObject(id), m_name(std::move(name)), m_flags(flags), m_pathName(std::move(pathName))
 {}
 
+OdDbBlockTableRecord::~OdDbBlockTableRecord() = default;
+
 OdDbBlockTableRecordPtr OdDbBlockTableRecord::cast(const OdRxObject* object)
 {
     return OdDbBlockTableRecordPtr(

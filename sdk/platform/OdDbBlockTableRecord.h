@@ -20,6 +20,9 @@ public:
     static OdDbBlockTableRecordPtr cast(const OdRxObject* object);
     static OdDbBlockTableRecordPtr cast(const OdDbObjectPtr& object) { return cast(object.get()); }
 
+    // Defined in the library, so that its type information lives there alone.
+    ~OdDbBlockTableRecord() override;
+
     const OdString& getName() const { return m_name; }
     int flags() const { return m_flags; }
     bool isFromExternalReference() const { return (m_flags & kExternalReference) != 0; }
