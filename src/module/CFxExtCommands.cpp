@@ -1,15 +1,22 @@
 #include "CFxExtCommands.h"
 
+#include "CompanionSettings.h"
+#include "DelayLoadLibrary.h"
 #include "locale/LanguageTable.h"
 
+#include <QNOmniplaneView.h>
 #include <QUuid>
 
 #include <CFxSystemServices.h>
+#include <IQuestionView.h>
 #include <OdRxDynamicLinker.h>
+#include <TarnTaskPane.h>
+#include <XmlTodxf.h>
 
 namespace {
-// The platform module of the online connector.
+// The platform modules of the online and the collaboration-platform connectors.
 constexpr wchar_t kOnlineConnector[] = L"QNTForgeportConnector";
+constexpr wchar_t kCollaborationConnector[] = L"QuillonOmniplaneConnector";
 // How the task pane is told which edition of the host it serves.
 constexpr char kTaskPaneTag[] = "ENT";
 } // namespace
@@ -50,31 +57,47 @@ void CFxExtCommands::createAddInsTab()
 
 void CFxExtCommands::addQuestionView()
 {
-    // Comes with the social-service connector: adds its question view unless the network
-    // companions are switched off.
+    if (!DelayLoadLibrary::companion(IQuestionViewEntryPoints::library).load())
+        return;
+    if (CompanionSettings::networkCompanionsDisabled())
+        return;
+    IQuestionView().addiQuestionView();
 }
 
 void CFxExtCommands::addCollaborationView()
 {
-    // Comes with the collaboration-platform connector: loads "QuillonOmniplaneConnector" and
-    // adds its view when the registry value "OmniplaneCSEnable" switches it on.
+    if (!CompanionSettings::collaborationEnabled())
+        return;
+    // The linker keeps the module loaded after this pointer goes; it is unloaded with the rest
+    // at shut-down.
+    const OdRxModulePtr connector =
+        odrxDynamicLinker()->loadModule(OdString(kCollaborationConnector), true);
+    if (!connector.isNull())
+        QNOmniplaneView().addQNOmniplaneView();
 }
 
 void CFxExtCommands::loadOnlineConnector()
 {
-    // Comes with the online connector: loads the platform module "QNTForgeportConnector" into
-    // m_onlineConnector and adds its view.
+    m_onlineConnector = odrxDynamicLinker()->loadModule(OdString(kOnlineConnector), true);
+    if (!m_onlineConnector.isNull())
+        XmlTodxf().addXmlTodxf();
 }
 
-void CFxExtCommands::addTaskPane(QUuid&, const std::string&)
+void CFxExtCommands::addTaskPane(QUuid& installationId, const std::string& tag)
 {
-    // Comes with the task pane companion: adds the task pane for this installation, unless the
-    // network companions are switched off.
+    if (!DelayLoadLibrary::companion(TarnTaskPaneEntryPoints::library).load())
+        return;
+    if (CompanionSettings::networkCompanionsDisabled())
+        return;
+    TarnTaskPane().addTaskPane(installationId, tag);
 }
 
 void CFxExtCommands::unloadOnlineConnector()
 {
-    // Removing the connector's view comes with the online connector. The unload request goes
-    // out whether or not the connector was ever loaded, and the member keeps its value.
+    if (!m_onlineConnector.isNull())
+        XmlTodxf().removeXmlTodxf();
+    // Asked for whether or not the connector ever loaded. The member keeps its reference, so
+    // the linker defers the unload until the reference goes with this reactor (the connector's
+    // view is gone already); a new main window takes the same connector up again.
     odrxDynamicLinker()->unloadModule(OdString(kOnlineConnector));
 }
