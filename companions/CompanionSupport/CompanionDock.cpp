@@ -8,6 +8,8 @@
 namespace {
 // Docks of companions carry this property, so that a new one finds the others to tab with.
 const char kCompanionProperty[] = "quillonCompanion";
+// Wide enough for the tabs of four companions to keep their titles readable.
+constexpr int kMinimumWidth = 340;
 } // namespace
 
 CompanionDock::CompanionDock(const char* objectName) : m_objectName(QString::fromLatin1(objectName))
@@ -34,6 +36,7 @@ bool CompanionDock::add(const QString& title, const ContentFactory& makeContent)
         created->setObjectName(m_objectName);
         created->setProperty(kCompanionProperty, true);
         created->setWidget(makeContent());
+        created->setMinimumWidth(kMinimumWidth);
         placeBesideOtherCompanions(window, created);
         m_dock = created;
     }

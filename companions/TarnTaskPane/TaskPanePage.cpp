@@ -28,6 +28,14 @@ QString entry(const QString& term, const QString& description)
     return QStringLiteral("<dl><dt>%1</dt><dd>%2</dd></dl>").arg(term.toHtmlEscaped(), description);
 }
 
+// The module's rule image, or a plain rule while the module's images are not there.
+QString separator()
+{
+    if (QFile::exists(TaskPanePage::resourceFolder() + QStringLiteral("/images/tabHR.jpg")))
+        return QStringLiteral("<div class=\"hr\"><img src=\"images/tabHR.jpg\"/></div>");
+    return QStringLiteral("<hr/>");
+}
+
 // Used while the module's style sheet is not there: the same colours, fewer details.
 const char kPlainStyle[] = "body { background-color: #CCCCCC; color: #666666; }\n"
                            "#boxTitle { font-weight: bold; font-size: 18px; color: #8CC642; }\n"
@@ -95,7 +103,7 @@ QString TaskPanePage::welcomeBox() const
                                         text("Check for a newer version"))) +
             entry(text("Community"),
                   text("Type Community to ask other Quillon users.").toHtmlEscaped()) +
-            QStringLiteral("<div class=\"hr\"><img src=\"images/tabHR.jpg\"/></div>"));
+            separator());
 }
 
 QString TaskPanePage::installationBox() const

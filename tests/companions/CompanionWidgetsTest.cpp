@@ -7,6 +7,7 @@
 #include "TestStrings.h"
 
 #include <QDockWidget>
+#include <QLibrary>
 #include <QMainWindow>
 #include <QRegExp>
 #include <QSettings>
@@ -134,7 +135,6 @@ TEST_F(CompanionWidgetsTest, EachCompanionDocksItsViewInTheMainWindow)
     ASSERT_NE(page, nullptr);
     EXPECT_TRUE(page->toPlainText().contains(m_installationId.toString()));
     EXPECT_TRUE(page->toPlainText().contains(QStringLiteral("ENT")));
-    EXPECT_FALSE(page->toPlainText().contains(QStringLiteral("Viewcast")));
 }
 
 TEST_F(CompanionWidgetsTest, DestroyTakesTheOnlineConnectorsViewAwayAtOnce)
@@ -205,6 +205,34 @@ TEST_F(CompanionWidgetsTest, WithoutAMainWindowTheCompanionsAreCalledAndShowNoth
         QStringList({"addiQuestionView", "addQNOmniplaneView", "addXmlTodxf", "addTaskPane",
                      "showTaskPane", "showiQuestionView", "removeXmlTodxf"}));
     EXPECT_EQ(m_events.events().count("message-box"), 0);
+}
+
+TEST_F(CompanionWidgetsTest, TheViewcastNoticeJoinsThePaneOrComesAsAMessage)
+{
+    // What the publish command calls when the viewer is missing, reached as its import does.
+    QLibrary library(LoadedModule::stageFolder() + QStringLiteral("/TarnTaskPane"));
+    const auto showNotice =
+        reinterpret_cast<void (*)()>(library.resolve("TarnTaskPane_showViewcastMeassage"));
+    ASSERT_NE(showNotice, nullptr) << library.errorString().toStdString();
+
+    showNotice();
+    const auto messages = m_events.events().named(QStringLiteral("message-box"));
+    ASSERT_EQ(messages.size(), 1);
+    EXPECT_EQ(messages[0].field(QStringLiteral("caption")), QStringLiteral("Viewcast"));
+    const QString notice = messages[0].field(QStringLiteral("text"));
+    EXPECT_TRUE(notice.contains(QStringLiteral("Viewcast viewer")));
+
+    QMainWindow& window = create();
+    window.show();
+    auto* page = dock(window, kPane)->findChild<QTextBrowser*>();
+    ASSERT_NE(page, nullptr);
+    EXPECT_FALSE(page->toPlainText().contains(notice));
+    dock(window, kQuestions)->raise();
+    showNotice();
+    EXPECT_EQ(m_events.events().count(QStringLiteral("message-box")), 1);
+    EXPECT_TRUE(page->toPlainText().startsWith(QStringLiteral("Viewcast")));
+    EXPECT_TRUE(page->toPlainText().contains(notice));
+    EXPECT_TRUE(page->isVisible());
 }
 
 TEST(CompanionReload, TheModuleAndItsConnectorsUnloadCleanlyCycleAfterCycle)
