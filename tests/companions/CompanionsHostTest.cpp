@@ -52,6 +52,7 @@ protected:
     CompanionInstallation m_installation;
 };
 
+// No network switch is set: the network companions are on.
 TEST_F(CompanionsHostTest, EveryCompanionInTheReactorsOrderOnCreateAndDestroy)
 {
     m_installation.installAll();
@@ -207,22 +208,11 @@ TEST_P(NetworkSwitch, DecidesAboutTheQuestionViewAndTheTaskPaneOnly)
 
 INSTANTIATE_TEST_SUITE_P(Values, NetworkSwitch,
                          ::testing::Values(NetworkSwitchCase{"CapitalsWithBlanks", " YES ", true},
-                                           NetworkSwitchCase{"Lower", "yes", true},
-                                           NetworkSwitchCase{"MixedAfterTab", "\tYes", true},
                                            NetworkSwitchCase{"No", "no", false},
                                            NetworkSwitchCase{"One", "1", false},
                                            NetworkSwitchCase{"True", "true", false},
-                                           NetworkSwitchCase{"YesAndMore", "yes please", false},
-                                           NetworkSwitchCase{"Empty", "", false}),
+                                           NetworkSwitchCase{"YesAndMore", "yes please", false}),
                          [](const auto& info) { return std::string(info.param.name); });
-
-TEST_F(CompanionsHostTest, WithoutTheNetworkSwitchTheNetworkCompanionsAreOn)
-{
-    m_installation.installAll();
-    const QStringList calls = companionCalls(run(QStringLiteral("mainframe create")));
-    EXPECT_TRUE(calls.contains("QuillonQnMurmurConnector.addiQuestionView"));
-    EXPECT_TRUE(calls.contains("TarnTaskPane.addTaskPane"));
-}
 
 TEST_F(CompanionsHostTest, TheCollaborationConnectorIsNotEvenLoadedUnlessTheRegistrySaysSo)
 {
@@ -243,13 +233,4 @@ TEST_F(CompanionsHostTest, TheCollaborationConnectorIsNotEvenLoadedUnlessTheRegi
     EXPECT_TRUE(companionCalls(result).contains("QuillonOmniplaneConnector.addQNOmniplaneView"));
 }
 
-TEST_F(CompanionsHostTest, AnEnabledCollaborationConnectorThatIsNotInstalledIsSkippedSilently)
-{
-    m_installation.setCollaborationEnabled(true);
-    const HostResult result = run(QStringLiteral("mainframe create"));
-    EXPECT_EQ(result.events.values("module-load-failed", "module"),
-              QStringList({"QuillonOmniplaneConnector", "QNTForgeportConnector"}));
-    EXPECT_EQ(result.events.count("companion-call"), 0);
-    EXPECT_EQ(result.events.count("message-box"), 0);
-}
 } // namespace
