@@ -20,7 +20,24 @@ OdString CFxString::toOdString() const
 
 bool CFxString::equalNoCase(const CFxString& other) const
 {
-    return toQString().compare(other.toQString(), Qt::CaseInsensitive) == 0;
+    // Every identifier look-up of the UI model compares this way, entry by entry: fold the
+    // characters in place, as QString::compare with Qt::CaseInsensitive does, rather than make
+    // two QStrings per comparison.
+    if constexpr (sizeof(wchar_t) == sizeof(char32_t)) {
+        if (m_text.size() != other.m_text.size())
+            return false;
+        for (std::size_t i = 0; i < m_text.size(); ++i) {
+            const wchar_t a = m_text[i];
+            const wchar_t b = other.m_text[i];
+            if (a != b && QChar::toCaseFolded(static_cast<uint>(a)) !=
+                              QChar::toCaseFolded(static_cast<uint>(b)))
+                return false;
+        }
+        return true;
+    } else {
+        // UTF-16: surrogate pairs fold as one character, which QString knows how to do.
+        return toQString().compare(other.toQString(), Qt::CaseInsensitive) == 0;
+    }
 }
 
 int CFxString::compare(const CFxString& other) const

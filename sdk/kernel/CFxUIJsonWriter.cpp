@@ -4,6 +4,8 @@
 
 #include <QJsonArray>
 
+#include <vector>
+
 namespace {
 QString text(const CFxString& value)
 {
@@ -55,11 +57,9 @@ const char* buttonKind(int kind)
     }
 }
 
-QJsonObject buttonJson(const CFxUIRibbonButton& button, const CFxUIGroup& group)
+QJsonObject buttonFields(const CFxUIRibbonButton& button, const CFxUIGroup& group,
+                         const QJsonArray& subButtons)
 {
-    QJsonArray subButtons;
-    for (const CFxUIRibbonButton* sub : button.GetSubButtons())
-        subButtons.append(buttonJson(*sub, group));
     return {{QStringLiteral("kind"), QLatin1String(buttonKind(button.GetKind()))},
             {QStringLiteral("id"), text(button.GetIdentifier())},
             {QStringLiteral("text"), text(button.GetText())},
@@ -68,6 +68,33 @@ QJsonObject buttonJson(const CFxUIRibbonButton& button, const CFxUIGroup& group)
             {QStringLiteral("splitStyle"), button.GetSplitStyle()},
             {QStringLiteral("splitBehavior"), button.GetSplitBehavior()},
             {QStringLiteral("buttons"), subButtons}};
+}
+
+// Split buttons nest as deep as modules make them (thousands of levels): the button tree is
+// written with a stack of its own, each button after all its sub-buttons.
+QJsonObject buttonJson(const CFxUIRibbonButton& root, const CFxUIGroup& group)
+{
+    struct Pending
+    {
+        const CFxUIRibbonButton* button;
+        int next;
+        QJsonArray subButtons;
+    };
+    std::vector<Pending> pending{{&root, 0, {}}};
+    QJsonObject written;
+    while (!pending.empty()) {
+        Pending& top = pending.back();
+        if (const CFxUIRibbonButton* sub = top.button->GetSubButtons().GetAt(top.next)) {
+            ++top.next;
+            pending.push_back({sub, 0, {}});
+            continue;
+        }
+        written = buttonFields(*top.button, group, top.subButtons);
+        pending.pop_back();
+        if (!pending.empty())
+            pending.back().subButtons.append(written);
+    }
+    return written;
 }
 
 QJsonObject rowJson(const CFxUIRibbonRow& row, const CFxUIGroup& group)

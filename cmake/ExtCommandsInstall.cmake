@@ -1,0 +1,48 @@
+# The sibling SDK: what a module built outside this project needs to call the ExtCommands
+# module's exported ribbon interface. `cmake --install` puts into the prefix:
+#   include/ExtCommands/           the public headers (RibbonItem, the exported functions)
+#   include/ExtCommands/sdk/...    the headers of the platform and kernel libraries
+#   lib/                           TD_Root, FxKernel and the ExtCommands module itself
+#   lib/cmake/ExtCommands/         the package: find_package(ExtCommands) gives the imported
+#                                  targets ExtCommands::ExtCommands, ExtCommands::FxKernel and
+#                                  ExtCommands::TD_Root
+# A sibling is a platform module as well, so it links the platform and kernel libraries; at
+# run time it finds them, and the ExtCommands module, already loaded by the host.
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+set(EC_PACKAGE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/ExtCommands")
+
+# The public headers are reached as <ExtCommands/...>, and they use Qt's strings and lists.
+target_include_directories(ExtCommands INTERFACE
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+target_link_libraries(ExtCommands INTERFACE Qt5::Core)
+
+# Installed side by side, the libraries find each other.
+set_target_properties(TD_Root FxKernel ExtCommands PROPERTIES INSTALL_RPATH "$ORIGIN")
+
+install(TARGETS TD_Root FxKernel ExtCommands EXPORT ExtCommandsTargets
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/ExtCommands"
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
+    FILES_MATCHING PATTERN "*.h")
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/sdk/platform/"
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ExtCommands/sdk/platform
+    FILES_MATCHING PATTERN "*.h")
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/sdk/kernel/"
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ExtCommands/sdk/kernel
+    FILES_MATCHING PATTERN "*.h")
+
+install(EXPORT ExtCommandsTargets NAMESPACE ExtCommands:: DESTINATION ${EC_PACKAGE_DIR})
+configure_package_config_file("${CMAKE_CURRENT_LIST_DIR}/ExtCommandsConfig.cmake.in"
+    "${CMAKE_BINARY_DIR}/package/ExtCommandsConfig.cmake"
+    INSTALL_DESTINATION ${EC_PACKAGE_DIR})
+write_basic_package_version_file("${CMAKE_BINARY_DIR}/package/ExtCommandsConfigVersion.cmake"
+    COMPATIBILITY SameMajorVersion)
+install(FILES
+    "${CMAKE_BINARY_DIR}/package/ExtCommandsConfig.cmake"
+    "${CMAKE_BINARY_DIR}/package/ExtCommandsConfigVersion.cmake"
+    DESTINATION ${EC_PACKAGE_DIR})

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+
+#include <CFxCommand.h>
+
+// A command of the sample: its group, its names ("NAME" and "_NAME"), and the prompts and
+// messages through which it talks with the user on the command line.
+class SampleCommand : public CFxCommand
+{
+public:
+    explicit SampleCommand(const wchar_t* localName);
+
+    const OdString groupName() const override;
+    const OdString globalName() const override;
+    const OdString localName() const override;
+
+protected:
+    // The user's answer to `prompt`; empty when the user gave none.
+    static QString askString(OdEdCommandContext* context, const wchar_t* prompt);
+    // The user's whole-number answer to `prompt` (`defaultValue` when none); false when the
+    // answer is not a whole number.
+    static bool askInt(OdEdCommandContext* context, const wchar_t* prompt, int defaultValue,
+                       int& value);
+    // Tells the user `text`, after the command's name.
+    void tell(OdEdCommandContext* context, const QString& text) const;
+
+private:
+    const wchar_t* m_localName;
+};

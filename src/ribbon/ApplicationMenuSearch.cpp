@@ -1,0 +1,24 @@
+#include "ApplicationMenuSearch.h"
+
+#include "FirstWithIdentifier.h"
+
+#include <CFxUIGroup.h>
+
+CFxUIRibbonSystemMenuItem*
+ApplicationMenuSearch::matchOrLast(const CFxUIList<CFxUIRibbonSystemMenuItem>& entries,
+                                   const CFxString& id)
+{
+    CFxUIRibbonSystemMenuItem* found = firstWithIdentifier(entries, id);
+    return found ? found : entries.GetAt(entries.GetCount() - 1);
+}
+
+CFxUIRibbonSystemMenuItem* ApplicationMenuSearch::top(const CFxUIGroup& mainGroup)
+{
+    return matchOrLast(mainGroup.GetApplicationMenu(), CFxString(L"RSM"));
+}
+
+CFxUIRibbonSystemMenuItem* ApplicationMenuSearch::child(const CFxUIRibbonSystemMenuItem* parent,
+                                                        const CFxString& id)
+{
+    return parent ? firstWithIdentifier(parent->GetSubItems(), id) : nullptr;
+}

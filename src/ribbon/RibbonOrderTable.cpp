@@ -1,0 +1,45 @@
+#include "RibbonOrderTable.h"
+
+#include "ProcessLifetime.h"
+
+namespace {
+QMap<int, QString>* g_table = nullptr;
+
+QMap<int, QString>* makeTable()
+{
+    // Texts on the heap rather than literals: the table outlives the module, whose read-only
+    // data goes when it is unloaded.
+    auto* table = new QMap<int, QString>;
+    table->insert(0, QString::fromLatin1("ID_DRAWCOMPARE_ITEM"));
+    table->insert(1, QString::fromLatin1("ID_GCODE_ITEM"));
+    table->insert(2, QString::fromLatin1("ID_VAULTLINE_ITEM"));
+    table->insert(3, QString::fromLatin1("ID_PK_PARTKIT"));
+    return table;
+}
+} // namespace
+
+const QMap<int, QString>& RibbonOrderTable::table()
+{
+    if (!g_table)
+        g_table = keptForProcess(makeTable());
+    return *g_table;
+}
+
+int RibbonOrderTable::orderOf(const QString& id)
+{
+    for (auto at = table().begin(); at != table().end(); ++at) {
+        if (at.value().compare(id, Qt::CaseInsensitive) == 0)
+            return at.key();
+    }
+    return 0;
+}
+
+QString RibbonOrderTable::identifierAt(int order)
+{
+    return table().value(order);
+}
+
+QList<QString> RibbonOrderTable::identifiers()
+{
+    return table().values();
+}
