@@ -23,9 +23,11 @@ QString box(const QString& title, const QString& body)
         .arg(title.toHtmlEscaped(), body);
 }
 
+// Not a definition list: the style sheet gives lists a bullet image, which Qt's rich text
+// repeats across the whole line.
 QString entry(const QString& term, const QString& description)
 {
-    return QStringLiteral("<dl><dt>%1</dt><dd>%2</dd></dl>").arg(term.toHtmlEscaped(), description);
+    return QStringLiteral("<p><b>%1</b><br/>%2</p>").arg(term.toHtmlEscaped(), description);
 }
 
 // The module's rule image, or a plain rule while the module's images are not there.
@@ -40,7 +42,7 @@ QString separator()
 const char kPlainStyle[] = "body { background-color: #CCCCCC; color: #666666; }\n"
                            "#boxTitle { font-weight: bold; font-size: 18px; color: #8CC642; }\n"
                            "#panelBox { background-color: #FFFFFF; }\n"
-                           "dt { font-weight: bold; }\n";
+                           "p { margin-bottom: 6px; }\n";
 } // namespace
 
 void TaskPanePage::setInstallation(const QUuid& installationId, const QString& tag)

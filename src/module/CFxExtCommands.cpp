@@ -3,11 +3,17 @@
 #include "CompanionSettings.h"
 #include "DelayLoadLibrary.h"
 #include "locale/LanguageTable.h"
+#include "ribbon/HostMainGroup.h"
+#include "ribbon/RibbonContainers.h"
+#include "ribbon/RibbonIdentifiers.h"
 
 #include <QNOmniplaneView.h>
+#include <QObject>
 #include <QUuid>
 
 #include <CFxSystemServices.h>
+#include <CFxUI.h>
+#include <ExtCommands/RibbonMenuItemWrapper.h>
 #include <IQuestionView.h>
 #include <OdRxDynamicLinker.h>
 #include <TarnTaskPane.h>
@@ -51,8 +57,20 @@ void CFxExtCommands::mainFrameDestroyed(QWidget*)
 
 void CFxExtCommands::createAddInsTab()
 {
-    // Comes with the ribbon wrapper: finds or creates the tab "ID_RibbonAddInsTab" and its
-    // panel "ID_RibbonAddInsPanel", captioned "Add-Ins", for the siblings' buttons.
+    // The tab and panel that sibling modules' buttons go into are the ribbon wrapper's, made by
+    // the wrapper's own steps: exactly what the wrapper would make for a sibling's first button
+    // (a new tab joins the workspace "Drafting and Annotation" as well).
+    RibbonMenuItemWrapper::GetRibbonMenuItemWrapperInstance();
+    CFxUI* ui = GetFxSystemServices()->GetUI();
+    CFxUIGroup* mainGroup = HostMainGroup::find(ui);
+    if (!mainGroup)
+        return;
+    const CFxString caption(QObject::tr("Add-Ins"));
+    CFxUIRibbonTab* tab =
+        RibbonContainers::findOrCreateTab(*ui, *mainGroup, CFxString(kAddInsTabId), caption);
+    if (tab)
+        RibbonContainers::findOrCreatePanel(*ui, *mainGroup, *tab, CFxString(kAddInsPanelId),
+                                            caption);
 }
 
 void CFxExtCommands::addQuestionView()

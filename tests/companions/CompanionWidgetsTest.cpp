@@ -7,6 +7,7 @@
 #include "TestStrings.h"
 
 #include <QDockWidget>
+#include <QFile>
 #include <QLibrary>
 #include <QMainWindow>
 #include <QRegExp>
@@ -135,6 +136,10 @@ TEST_F(CompanionWidgetsTest, EachCompanionDocksItsViewInTheMainWindow)
     ASSERT_NE(page, nullptr);
     EXPECT_TRUE(page->toPlainText().contains(m_installationId.toString()));
     EXPECT_TRUE(page->toPlainText().contains(QStringLiteral("ENT")));
+    // Styled with the sheet that the module carries.
+    QFile sheet(QStringLiteral(":/images/BFResources/taskpaneStyles.css"));
+    ASSERT_TRUE(sheet.open(QIODevice::ReadOnly));
+    EXPECT_EQ(page->document()->defaultStyleSheet(), QString::fromUtf8(sheet.readAll()));
 }
 
 TEST_F(CompanionWidgetsTest, DestroyTakesTheOnlineConnectorsViewAwayAtOnce)

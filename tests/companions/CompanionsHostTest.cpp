@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace {
 const QString kCreateAndDestroy = QStringLiteral("mainframe create; mainframe destroy");
 
@@ -28,6 +30,41 @@ QStringList libraries(const HostResult& result)
         result.events.values(QStringLiteral("companion-call"), QStringLiteral("library"));
     called.removeDuplicates();
     return called;
+}
+
+QJsonObject uiModel(const HostResult& result, int index)
+{
+    return result.events.named(QStringLiteral("ui"))
+        .value(index)
+        .fields.value(QStringLiteral("model"))
+        .toObject();
+}
+
+QJsonObject withValue(const QJsonArray& objects, const QString& key, const QJsonValue& value)
+{
+    for (const QJsonValue& object : objects) {
+        if (object[key] == value)
+            return object.toObject();
+    }
+    return {};
+}
+
+QJsonObject mainGroup(const QJsonObject& model)
+{
+    return withValue(model[QStringLiteral("groups")].toArray(), QStringLiteral("main"), true);
+}
+
+QJsonObject addInsTab(const QJsonObject& model)
+{
+    return withValue(mainGroup(model)[QStringLiteral("tabs")].toArray(), QStringLiteral("id"),
+                     QStringLiteral("ID_RibbonAddInsTab"));
+}
+
+QJsonArray workspaceTabs(const QJsonObject& model)
+{
+    return withValue(model[QStringLiteral("workspaces")].toArray(), QStringLiteral("name"),
+                     QStringLiteral("Drafting and Annotation"))[QStringLiteral("tabs")]
+        .toArray();
 }
 
 class CompanionsHostTest : public ::testing::Test
@@ -167,6 +204,9 @@ TEST_F(CompanionsHostTest, WithoutAnyCompanionTheRestOfTheMainWindowWorkStillHap
             {QStringLiteral("--language"), QStringLiteral("1")});
     EXPECT_EQ(result.events.count("companion-call"), 0);
     EXPECT_GT(result.events.count("translator-installed"), 0);
+    // The caption comes through the module's translators, installed just before.
+    EXPECT_EQ(addInsTab(uiModel(result, 0))[QStringLiteral("caption")],
+              QStringLiteral("Zusatzmodule"));
     EXPECT_EQ(result.events.values("command-added", "name").mid(3),
               QStringList({"_RELEASENOTES", "_CHECKFORUPDATES"}));
     EXPECT_EQ(result.events.timeline({"command-ended result"}),
@@ -176,6 +216,36 @@ TEST_F(CompanionsHostTest, WithoutAnyCompanionTheRestOfTheMainWindowWorkStillHap
               QStringList{"QNTForgeportConnector"});
     EXPECT_EQ(result.events.values("module-unload-skipped", "module"),
               QStringList{"QNTForgeportConnector"});
+}
+
+TEST_F(CompanionsHostTest, TheAddInsTabAndPanelStandWithoutAnySibling)
+{
+    m_installation.installAll();
+    const HostResult result = run(QStringLiteral("ui; mainframe create; ui; mainframe create; "
+                                                 "mainframe destroy; ui"));
+    const QJsonObject before = uiModel(result, 0);
+    EXPECT_TRUE(addInsTab(before).isEmpty());
+    const QJsonObject panel{{"id", "ID_RibbonAddInsPanel"},
+                            {"caption", "Add-Ins"},
+                            {"collapsedCaption", "Add-Ins"},
+                            {"launcher", 0},
+                            {"rows", QJsonArray()}};
+    const QJsonObject tab{{"id", "ID_RibbonAddInsTab"},
+                          {"caption", "Add-Ins"},
+                          {"listCaption", "Add-Ins"},
+                          {"panels", QJsonArray{panel}}};
+    for (int index : {1, 2}) {
+        const QJsonObject after = uiModel(result, index);
+        EXPECT_EQ(addInsTab(after), tab) << "ui " << index;
+        // A second main window finds the tab and panel, and the main window's going leaves
+        // them: each stands once, after the host's own.
+        const QJsonArray tabs = mainGroup(after)[QStringLiteral("tabs")].toArray();
+        EXPECT_EQ(std::count(tabs.begin(), tabs.end(), QJsonValue(tab)), 1);
+        EXPECT_EQ(mainGroup(after)[QStringLiteral("panels")].toArray(),
+                  mainGroup(before)[QStringLiteral("panels")].toArray() +
+                      QJsonValue("ID_RibbonAddInsPanel"));
+        EXPECT_EQ(workspaceTabs(after), workspaceTabs(before) + QJsonValue("ID_RibbonAddInsTab"));
+    }
 }
 
 struct NetworkSwitchCase
