@@ -26,7 +26,7 @@ QDockWidget* CompanionDock::dock() const
     return window && m_dock && m_dock->parentWidget() == window ? m_dock.data() : nullptr;
 }
 
-bool CompanionDock::add(const QString& title, const ContentFactory& makeContent)
+bool CompanionDock::add(const QString& title, ContentFactory makeContent)
 {
     QMainWindow* window = mainWindow();
     if (!window)

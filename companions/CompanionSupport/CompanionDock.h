@@ -4,8 +4,6 @@
 #include <QPointer>
 #include <QString>
 
-#include <functional>
-
 class QMainWindow;
 
 // A companion's dock in the host's main window (GetFxSystemServices()->GetMainFrame()). The
@@ -14,7 +12,7 @@ class QMainWindow;
 class CompanionDock
 {
 public:
-    using ContentFactory = std::function<QWidget*()>;
+    using ContentFactory = QWidget* (*)();
 
     // `objectName` names the dock widget, so that the host and tests can find it.
     explicit CompanionDock(const char* objectName);
@@ -25,7 +23,7 @@ public:
     // Puts the dock, with the content that `makeContent` builds, into the main window and
     // brings it to the front; a dock that already stands in this window is kept. False without a
     // main window.
-    bool add(const QString& title, const ContentFactory& makeContent);
+    bool add(const QString& title, ContentFactory makeContent);
     // Shows the dock and brings it to the front; false when it does not stand in the window.
     bool show();
     // Deletes the dock at once, not later: the code behind its content may be about to be

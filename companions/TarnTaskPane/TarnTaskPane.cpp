@@ -42,7 +42,7 @@ bool TarnTaskPane::addTaskPane(QUuid& installationId, const std::string& tag)
     page().setInstallation(installationId, edition);
     showPageAnew();
     return paneDock().add(QCoreApplication::translate("TarnTaskPane", "Task Pane"),
-                          [] { return page().createBrowser(); });
+                          []() -> QWidget* { return page().createBrowser(); });
 }
 
 void TarnTaskPane::showTaskPane()
