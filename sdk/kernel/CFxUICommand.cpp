@@ -11,3 +11,7 @@ void CFxUICommand::SetLargeIcon(const CFxString& path, const CFxString& secondPa
     m_largeIcon[0] = path;
     m_largeIcon[1] = secondPath;
 }
+
+// Defined here so that the class's virtual table and type information live in the kernel
+// library alone.
+CFxUICommand::~CFxUICommand() = default;

@@ -10,6 +10,7 @@ class FX_KERNEL_EXPORT CFxUICommand : public CFxUIObject
 {
 public:
     using CFxUIObject::CFxUIObject;
+    ~CFxUICommand() override;
 
     const CFxString& GetMacro() const { return m_macro; }
     void SetMacro(const CFxString& macro) { m_macro = macro; }

@@ -16,6 +16,7 @@ class FX_KERNEL_EXPORT CFxUIGroup : public CFxUIObject
 {
 public:
     using CFxUIObject::CFxUIObject;
+    ~CFxUIGroup() override;
 
     bool IsMainGroup() const { return m_main; }
     void SetMainGroup(bool main) { m_main = main; }

@@ -10,6 +10,7 @@ class FX_KERNEL_EXPORT CFxUIMenuEntry : public CFxUIObject
 {
 public:
     CFxUIMenuEntry();
+    ~CFxUIMenuEntry() override;
 
     const CFxString& GetText() const { return m_text; }
     void SetText(const CFxString& text) { m_text = text; }

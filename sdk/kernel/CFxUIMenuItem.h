@@ -8,6 +8,7 @@ class FX_KERNEL_EXPORT CFxUIMenuItem : public CFxUIObject
 {
 public:
     CFxUIMenuItem();
+    ~CFxUIMenuItem() override;
 
     const CFxString& GetMenuText() const { return m_menuText; }
     void SetMenuText(const CFxString& text) { m_menuText = text; }

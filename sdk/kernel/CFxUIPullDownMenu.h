@@ -9,6 +9,7 @@ class FX_KERNEL_EXPORT CFxUIPullDownMenu : public CFxUIObject
 {
 public:
     using CFxUIObject::CFxUIObject;
+    ~CFxUIPullDownMenu() override;
 
     const CFxString& GetText() const { return m_text; }
     void SetText(const CFxString& text) { m_text = text; }

@@ -19,6 +19,7 @@ public:
     };
 
     CFxUIRibbonButton(int kind, const CFxString& identifier);
+    ~CFxUIRibbonButton() override;
 
     int GetKind() const { return m_kind; }
     const CFxString& GetText() const { return m_text; }

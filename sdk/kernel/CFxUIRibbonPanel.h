@@ -9,6 +9,7 @@ class FX_KERNEL_EXPORT CFxUIRibbonPanel : public CFxUIObject
 {
 public:
     using CFxUIObject::CFxUIObject;
+    ~CFxUIRibbonPanel() override;
 
     // The caption shown under the panel, and the one shown when the panel is collapsed.
     const CFxString& GetCaption() const { return m_caption; }

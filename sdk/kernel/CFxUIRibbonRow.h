@@ -9,6 +9,7 @@ class FX_KERNEL_EXPORT CFxUIRibbonRow : public CFxUIObject
 {
 public:
     using CFxUIObject::CFxUIObject;
+    ~CFxUIRibbonRow() override;
 
     CFxUIList<CFxUIRibbonButton>& GetButtons() { return m_buttons; }
     const CFxUIList<CFxUIRibbonButton>& GetButtons() const { return m_buttons; }

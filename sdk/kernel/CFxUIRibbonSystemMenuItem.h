@@ -11,6 +11,7 @@ class FX_KERNEL_EXPORT CFxUIRibbonSystemMenuItem : public CFxUIObject
 {
 public:
     using CFxUIObject::CFxUIObject;
+    ~CFxUIRibbonSystemMenuItem() override;
 
     static const wchar_t* separatorIdentifier() { return L"ID_SEPARATOR"; }
     bool IsSeparator() const { return GetIdentifier() == CFxString(separatorIdentifier()); }

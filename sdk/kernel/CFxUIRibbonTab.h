@@ -9,6 +9,7 @@ class FX_KERNEL_EXPORT CFxUIRibbonTab : public CFxUIObject
 {
 public:
     using CFxUIObject::CFxUIObject;
+    ~CFxUIRibbonTab() override;
 
     // The caption on the tab, and the one shown in the tab's key-tip and customisation lists.
     const CFxString& GetCaption() const { return m_caption; }

@@ -10,6 +10,7 @@ class FX_KERNEL_EXPORT CFxUIWorkspace : public CFxUIObject
 {
 public:
     using CFxUIObject::CFxUIObject;
+    ~CFxUIWorkspace() override;
 
     CFxUIList<CFxUIRibbonTab>& GetRibbonTabs() { return m_tabs; }
     const CFxUIList<CFxUIRibbonTab>& GetRibbonTabs() const { return m_tabs; }

@@ -1,0 +1,5 @@
+#include "CFxUIPullDownMenu.h"
+
+// Defined here so that the class's virtual table and type information live in the kernel
+// library alone.
+CFxUIPullDownMenu::~CFxUIPullDownMenu() = default;

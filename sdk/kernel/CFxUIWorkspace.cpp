@@ -1,0 +1,5 @@
+#include "CFxUIWorkspace.h"
+
+// Defined here so that the class's virtual table and type information live in the kernel
+// library alone.
+CFxUIWorkspace::~CFxUIWorkspace() = default;
