@@ -1,5 +1,7 @@
 #include "CFxCommunityCommand.h"
 
+#include <IQuestionView.h>
+
 const OdString CFxCommunityCommand::globalName() const
 {
     return OdString(L"_Community");
@@ -12,5 +14,6 @@ const OdString CFxCommunityCommand::localName() const
 
 int CFxCommunityCommand::runCommand(OdEdCommandContext*)
 {
+    IQuestionView().showiQuestionView();
     return RTNORM;
 }

@@ -1,15 +1,28 @@
 #include "CFxExtCommands.h"
 
+#include "CompanionSettings.h"
+#include "DelayLoadLibrary.h"
 #include "locale/LanguageTable.h"
+#include "ribbon/HostMainGroup.h"
+#include "ribbon/RibbonContainers.h"
+#include "ribbon/RibbonIdentifiers.h"
 
+#include <QNOmniplaneView.h>
+#include <QObject>
 #include <QUuid>
 
 #include <CFxSystemServices.h>
+#include <CFxUI.h>
+#include <ExtCommands/RibbonMenuItemWrapper.h>
+#include <IQuestionView.h>
 #include <OdRxDynamicLinker.h>
+#include <TarnTaskPane.h>
+#include <XmlTodxf.h>
 
 namespace {
-// The platform module of the online connector.
+// The platform modules of the online and the collaboration-platform connectors.
 constexpr wchar_t kOnlineConnector[] = L"QNTForgeportConnector";
+constexpr wchar_t kCollaborationConnector[] = L"QuillonOmniplaneConnector";
 // How the task pane is told which edition of the host it serves.
 constexpr char kTaskPaneTag[] = "ENT";
 } // namespace
@@ -44,37 +57,65 @@ void CFxExtCommands::mainFrameDestroyed(QWidget*)
 
 void CFxExtCommands::createAddInsTab()
 {
-    // Comes with the ribbon wrapper: finds or creates the tab "ID_RibbonAddInsTab" and its
-    // panel "ID_RibbonAddInsPanel", captioned "Add-Ins", for the siblings' buttons.
+    // The tab and panel that sibling modules' buttons go into are the ribbon wrapper's, made by
+    // the wrapper's own steps: exactly what the wrapper would make for a sibling's first button
+    // (a new tab joins the workspace "Drafting and Annotation" as well).
+    RibbonMenuItemWrapper::GetRibbonMenuItemWrapperInstance();
+    CFxUI* ui = GetFxSystemServices()->GetUI();
+    CFxUIGroup* mainGroup = HostMainGroup::find(ui);
+    if (!mainGroup)
+        return;
+    const CFxString caption(QObject::tr("Add-Ins"));
+    CFxUIRibbonTab* tab =
+        RibbonContainers::findOrCreateTab(*ui, *mainGroup, CFxString(kAddInsTabId), caption);
+    if (tab)
+        RibbonContainers::findOrCreatePanel(*ui, *mainGroup, *tab, CFxString(kAddInsPanelId),
+                                            caption);
 }
 
 void CFxExtCommands::addQuestionView()
 {
-    // Comes with the social-service connector: adds its question view unless the network
-    // companions are switched off.
+    if (!DelayLoadLibrary::companion(IQuestionViewEntryPoints::library).load())
+        return;
+    if (CompanionSettings::networkCompanionsDisabled())
+        return;
+    IQuestionView().addiQuestionView();
 }
 
 void CFxExtCommands::addCollaborationView()
 {
-    // Comes with the collaboration-platform connector: loads "QuillonOmniplaneConnector" and
-    // adds its view when the registry value "OmniplaneCSEnable" switches it on.
+    if (!CompanionSettings::collaborationEnabled())
+        return;
+    // The linker keeps the module loaded after this pointer goes; it is unloaded with the rest
+    // at shut-down.
+    const OdRxModulePtr connector =
+        odrxDynamicLinker()->loadModule(OdString(kCollaborationConnector), true);
+    if (!connector.isNull())
+        QNOmniplaneView().addQNOmniplaneView();
 }
 
 void CFxExtCommands::loadOnlineConnector()
 {
-    // Comes with the online connector: loads the platform module "QNTForgeportConnector" into
-    // m_onlineConnector and adds its view.
+    m_onlineConnector = odrxDynamicLinker()->loadModule(OdString(kOnlineConnector), true);
+    if (!m_onlineConnector.isNull())
+        XmlTodxf().addXmlTodxf();
 }
 
-void CFxExtCommands::addTaskPane(QUuid&, const std::string&)
+void CFxExtCommands::addTaskPane(QUuid& installationId, const std::string& tag)
 {
-    // Comes with the task pane companion: adds the task pane for this installation, unless the
-    // network companions are switched off.
+    if (!DelayLoadLibrary::companion(TarnTaskPaneEntryPoints::library).load())
+        return;
+    if (CompanionSettings::networkCompanionsDisabled())
+        return;
+    TarnTaskPane().addTaskPane(installationId, tag);
 }
 
 void CFxExtCommands::unloadOnlineConnector()
 {
-    // Removing the connector's view comes with the online connector. The unload request goes
-    // out whether or not the connector was ever loaded, and the member keeps its value.
+    if (!m_onlineConnector.isNull())
+        XmlTodxf().removeXmlTodxf();
+    // Asked for whether or not the connector ever loaded. The member keeps its reference, so
+    // the linker defers the unload until the reference goes with this reactor (the connector's
+    // view is gone already); a new main window takes the same connector up again.
     odrxDynamicLinker()->unloadModule(OdString(kOnlineConnector));
 }

@@ -1,5 +1,7 @@
 #include "CFxHomeCommand.h"
 
+#include <TarnTaskPane.h>
+
 const OdString CFxHomeCommand::globalName() const
 {
     return OdString(L"_Home");
@@ -12,5 +14,6 @@ const OdString CFxHomeCommand::localName() const
 
 int CFxHomeCommand::runCommand(OdEdCommandContext*)
 {
+    TarnTaskPane().showTaskPane();
     return RTNORM;
 }

@@ -131,11 +131,12 @@ TEST_F(MainFrameTest, DestroyTakesOutTheHelpEntriesAndCommandsOnly)
     EXPECT_FALSE(commandKnown(L"RELEASENOTES"));
     EXPECT_EQ(model().systemMenu(), created.systemMenu());
     EXPECT_EQ(model().groupItems(kQuillon), created.groupItems(kQuillon));
-    EXPECT_EQ(m_events.events().describe({"command-removed", "module-unload-skipped"}, "name"),
+    EXPECT_EQ(m_events.events().describe({"command-removed", "module-unload-deferred"}, "name"),
               QStringList({"command-removed:_CHECKFORUPDATES", "command-removed:_RELEASENOTES",
-                           "module-unload-skipped"}));
-    // The online connector never loaded; the request to unload it goes out all the same.
-    EXPECT_EQ(m_events.events().values("module-unload-skipped", "module"),
+                           "module-unload-deferred"}));
+    // The online connector is installed beside the program: it is asked to go, and goes once
+    // the reactor's reference to it goes with the module.
+    EXPECT_EQ(m_events.events().values("module-unload-deferred", "module"),
               QStringList{"QNTForgeportConnector"});
 }
 
