@@ -100,9 +100,7 @@ protected:
     HostResult publish(const QString& path)
     {
         return m_host.runScript(QStringLiteral("open \"%1\"\nVIEWCAST\nwait-events").arg(path),
-                                {QStringLiteral("--registry"), registryFile(),
-                                 QStringLiteral("--companion-path"),
-                                 QStringLiteral(EC_FIXTURE_DIR "/companions")});
+                                {QStringLiteral("--registry"), registryFile()});
     }
 
     static QJsonArray openArguments(const QString& copy, const QString& viewerName)
@@ -122,24 +120,44 @@ protected:
                   5100);
     }
 
+    // What the module asked of the task pane (the other companions of the stage folder, such
+    // as the crash-report service, have their own business at start-up).
+    static QStringList taskPaneCalls(const HostResult& result)
+    {
+        QStringList calls;
+        for (const RecordedEvent& event : result.events.named(QStringLiteral("companion-call"))) {
+            if (event.field(QStringLiteral("library")) == QLatin1String("TarnTaskPane"))
+                calls << event.field(QStringLiteral("call"));
+        }
+        return calls;
+    }
+
+    // The module's own error box (the task pane shows its notice in a box of its own).
+    static QVector<RecordedEvent> errorBoxes(const HostResult& result)
+    {
+        QVector<RecordedEvent> boxes;
+        for (const RecordedEvent& event : result.events.named(QStringLiteral("message-box"))) {
+            if (event.field(QStringLiteral("caption")) == QLatin1String("Error"))
+                boxes << event;
+        }
+        return boxes;
+    }
+
     static void expectNoticeOnly(const HostResult& result)
     {
-        EXPECT_EQ(
-            result.events.describe({QStringLiteral("companion-call")}, QStringLiteral("call")),
-            QStringList{QStringLiteral("companion-call:showViewcastMeassage")});
+        EXPECT_EQ(taskPaneCalls(result), QStringList{QStringLiteral("showViewcastMeassage")});
         EXPECT_EQ(result.events.count(kViewerCall), 0);
-        EXPECT_EQ(result.events.count(QStringLiteral("message-box")), 0);
+        EXPECT_TRUE(errorBoxes(result).isEmpty());
     }
 
     static void expectErrorBoxOnly(const HostResult& result)
     {
-        const auto boxes = result.events.named(QStringLiteral("message-box"));
+        const auto boxes = errorBoxes(result);
         ASSERT_EQ(boxes.size(), 1);
-        EXPECT_EQ(boxes[0].field(QStringLiteral("caption")), QStringLiteral("Error"));
         EXPECT_EQ(boxes[0].field(QStringLiteral("text")),
                   QStringLiteral("Can not publish this document to Viewcast"));
         EXPECT_EQ(result.events.count(kViewerCall), 0);
-        EXPECT_EQ(result.events.count(QStringLiteral("companion-call")), 0);
+        EXPECT_TRUE(taskPaneCalls(result).isEmpty());
     }
 
     static QTemporaryDir* s_drawings;
@@ -162,7 +180,7 @@ TEST_F(PublishToViewcast, NewestCreatableVersionBelowTheCurrentOneIsDrivenByDisp
     EXPECT_EQ(calls[0].fields.value(QStringLiteral("args")).toArray(),
               openArguments(scratch(QStringLiteral("plan.dxf")), QStringLiteral("plan.vcst")));
     EXPECT_EQ(calls[0].field(QStringLiteral("result")), QStringLiteral("opened"));
-    EXPECT_EQ(result.events.count(QStringLiteral("companion-call")), 0);
+    EXPECT_TRUE(taskPaneCalls(result).isEmpty());
 }
 
 TEST_F(PublishToViewcast, VersionNineIsDrivenThroughItsOwnInterface)
@@ -250,9 +268,7 @@ TEST_F(PublishToViewcast, ViewerIsGivenLatin1TextSoOtherCharactersArriveAsQuesti
                           .arg(drawing(QStringLiteral("site/café.dxf")),
                                drawing(QStringLiteral("site/平面.dxf")))
                           .toUtf8());
-    const HostResult result = m_host.run({script, QStringLiteral("--registry"), registryFile(),
-                                          QStringLiteral("--companion-path"),
-                                          QStringLiteral(EC_FIXTURE_DIR "/companions")});
+    const HostResult result = m_host.run({script, QStringLiteral("--registry"), registryFile()});
     ASSERT_EQ(result.exitCode, 0) << result.standardError.toStdString();
     EXPECT_EQ(
         result.events.values(QStringLiteral("file-written"), QStringLiteral("path")),
