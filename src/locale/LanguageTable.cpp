@@ -1,5 +1,7 @@
 #include "LanguageTable.h"
 
+#include "module/ProcessLifetime.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QLocale>
@@ -8,10 +10,6 @@
 #include <CFxSystemServices.h>
 
 #include <array>
-
-#if defined(EXTCOMMANDS_SANITIZE)
-#include <sanitizer/lsan_interface.h>
-#endif
 
 namespace {
 // The catalogues whose translations the module installs, in the order in which they are
@@ -31,17 +29,6 @@ QString translationFolder(const QString& base, const LanguageEntry& entry)
     if (QDir(language).exists())
         return language;
     return QDir(base).exists() ? base : QString();
-}
-
-// A translator stays installed until the process ends and is never deleted. Tell the leak
-// checker so, including what Qt allocated for it, rather than hiding every QTranslator leak.
-void keepForLifeOfProcess(QTranslator* translator)
-{
-#if defined(EXTCOMMANDS_SANITIZE)
-    __lsan_ignore_object(translator);
-#else
-    Q_UNUSED(translator)
-#endif
 }
 } // namespace
 
@@ -141,8 +128,7 @@ void LanguageTable::loadTranslators(int requestedId) const
         return;
     std::array<QTranslator*, kCatalogues.size()> translators{};
     for (std::size_t i = 0; i < kCatalogues.size(); ++i) {
-        translators[i] = new QTranslator();
-        keepForLifeOfProcess(translators[i]);
+        translators[i] = keptForProcess(new QTranslator());
         // A catalogue that is not there leaves an empty translator, installed all the same.
         translators[i]->load(QString::fromLatin1(kCatalogues[i]), folder, QString(), QString());
     }

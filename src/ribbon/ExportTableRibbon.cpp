@@ -1,6 +1,6 @@
 #include "ApplicationMenuSearch.h"
 #include "HostMainGroup.h"
-#include "ProcessLifetime.h"
+#include "module/ProcessLifetime.h"
 
 #include <QObject>
 

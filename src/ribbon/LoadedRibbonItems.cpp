@@ -1,7 +1,7 @@
 #include "LoadedRibbonItems.h"
 
-#include "ProcessLifetime.h"
 #include "RibbonOrderTable.h"
+#include "module/ProcessLifetime.h"
 
 namespace {
 QMap<QString, CFxUIRibbonButton*>* g_items = nullptr;

@@ -1,11 +1,11 @@
 #include "FirstWithIdentifier.h"
 #include "HostMainGroup.h"
 #include "LoadedRibbonItems.h"
-#include "ProcessLifetime.h"
 #include "RibbonButtons.h"
 #include "RibbonCommands.h"
 #include "RibbonContainers.h"
 #include "RibbonIdentifiers.h"
+#include "module/ProcessLifetime.h"
 
 #include <QDebug>
 

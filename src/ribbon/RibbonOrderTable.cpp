@@ -1,6 +1,6 @@
 #include "RibbonOrderTable.h"
 
-#include "ProcessLifetime.h"
+#include "module/ProcessLifetime.h"
 
 namespace {
 QMap<int, QString>* g_table = nullptr;
