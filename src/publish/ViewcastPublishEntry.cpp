@@ -1,5 +1,6 @@
 #include "ViewcastPublishEntry.h"
 
+#include "ribbon/ApplicationMenuCommand.h"
 #include "ribbon/ApplicationMenuSearch.h"
 
 #include <QObject>
@@ -14,15 +15,13 @@ constexpr const wchar_t kEntryId[] = L"RSMI_PUBVIEWCAST";
 
 CFxUICommand* createPublishCommand(CFxUI& ui)
 {
-    CFxUICommand* command = ui.CreateCommand(CFxString(L"ID_PUBVIEWCAST"), nullptr);
-    command->SetMacro(CFxString(L"_VIEWCAST"));
-    command->SetDescription(QObject::tr("Opens the drawings in Viewcast"));
-    command->SetLargeIcon(CFxString(L":/images/BFResources/Resources/vcst_publish_24.png"),
-                          CFxString());
-    // The resource name has always carried the extension twice; the entry keeps it so.
-    command->SetSmallIcon(CFxString(L":/images/BFResources/Resources/vcst_Publish_16.png.png"),
-                          CFxString());
-    return command;
+    // The resource name of the small icon has always carried the extension twice; the entry
+    // keeps it so.
+    return ApplicationMenuCommand::create(
+        ui, CFxString(L"ID_PUBVIEWCAST"), CFxString(L"_VIEWCAST"),
+        QObject::tr("Opens the drawings in Viewcast"),
+        CFxString(L":/images/BFResources/Resources/vcst_publish_24.png"),
+        CFxString(L":/images/BFResources/Resources/vcst_Publish_16.png.png"));
 }
 
 CFxUIRibbonSystemMenuItem* firstSeparator(const CFxUIList<CFxUIRibbonSystemMenuItem>& entries)

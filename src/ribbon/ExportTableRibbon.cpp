@@ -1,3 +1,4 @@
+#include "ApplicationMenuCommand.h"
 #include "ApplicationMenuSearch.h"
 #include "HostMainGroup.h"
 #include "module/ProcessLifetime.h"
@@ -17,14 +18,11 @@ constexpr const wchar_t kEntryId[] = L"RSMI_EXPORTTABLE";
 
 CFxUICommand* createExportTableCommand(CFxUI& ui)
 {
-    CFxUICommand* command = ui.CreateCommand(CFxString(L"ID_EXPORTTABLE"), nullptr);
-    command->SetMacro(CFxString(L"_EXPORTTABLE"));
-    command->SetDescription(QObject::tr("Export table entity to .xlsx, .xls, .csv file"));
-    command->SetLargeIcon(CFxString(L":/images/BFResources/Resources/PK_BOM_EXPORT_large.png"),
-                          CFxString());
-    command->SetSmallIcon(CFxString(L":/images/BFResources/Resources/PK_BOM_EXPORT_small.png"),
-                          CFxString());
-    return command;
+    return ApplicationMenuCommand::create(
+        ui, CFxString(L"ID_EXPORTTABLE"), CFxString(L"_EXPORTTABLE"),
+        QObject::tr("Export table entity to .xlsx, .xls, .csv file"),
+        CFxString(L":/images/BFResources/Resources/PK_BOM_EXPORT_large.png"),
+        CFxString(L":/images/BFResources/Resources/PK_BOM_EXPORT_small.png"));
 }
 
 // A separator, then the entry, after "RSMI_13" (or after the last sub-entry without it).
