@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <CFxSystemServices.h>
 #include <OdEdCommandStack.h>
 #include <OdError.h>
 #include <OdRxDynamicLinker.h>
@@ -34,150 +35,98 @@ protected:
 
     static OdRxDynamicLinker* linker() { return odrxDynamicLinker(); }
 
-    // The reason the linker gives for refusing `name`.
-    static QString refusal(const QString& name)
-    {
-        try {
-            linker()->loadModule(od(name), false);
-        } catch (const OdError& error) {
-            return qt(error.description());
-        }
-        return QStringLiteral("<loaded>");
-    }
-
-    QStringList steps(const QStringList& events) const
-    {
-        return recorder.events().describe(events, QStringLiteral("step"));
-    }
-
     EventRecorder recorder;
 };
 
-TEST_F(DynamicLinker, LoadsAModuleOnceByNameAndUnloadsItWithoutATrace)
+TEST_F(DynamicLinker, LoadsAModuleOnceByNameAndUnloadsItWithoutATraceWhenNothingHoldsIt)
 {
     OdRxModulePtr module = linker()->loadModule(OdString(L"ProbeModule.tx"));
     ASSERT_FALSE(module.isNull());
-    EXPECT_EQ(steps({"probe", "module-loaded"}),
-              QStringList({"probe:constructed", "module-loaded", "probe:initApp"}));
+    EXPECT_EQ(recorder.events().timeline({"probe step", "module-loaded module"}),
+              QStringList({"probe constructed", "module-loaded ProbeModule", "probe initApp"}));
     EXPECT_EQ(module->numRefs(), 1);
-
     EXPECT_EQ(linker()->loadModule(OdString(L"ProbeModule")), module);
     EXPECT_EQ(linker()->getModule(OdString(L"probemodule")), module);
     EXPECT_EQ(recorder.events().count("probe"), 2);
     EXPECT_EQ(QFileInfo(qt(module->moduleName())).canonicalFilePath(),
               QFileInfo(fixture("ProbeModule.tx")).canonicalFilePath());
-
-    OdEdCommand* command = odedRegCmds()->lookupCmd(OdString(L"PROBE"));
+    const OdEdCommand* command = odedRegCmds()->lookupCmd(OdString(L"PROBE"));
     ASSERT_NE(command, nullptr);
     EXPECT_EQ(command->module(), module.get());
 
-    // Unloading stops and deletes the module and takes its library out of the process.
+    // HolderModule keeps a reference to ProbeModule from its start to its deletion.
+    linker()->loadModule(OdString(L"HolderModule"));
     module.release();
-    const QString path = fixture("ProbeModule.tx");
-    ASSERT_TRUE(OdSharedLibrary::isLoaded(od(path)));
     recorder.clear();
-
-    EXPECT_TRUE(linker()->unloadModule(OdString(L"PROBEMODULE.TX")));
+    EXPECT_FALSE(linker()->unloadModule(OdString(L"PROBEMODULE.TX")));
+    EXPECT_EQ(recorder.events().values("module-unload-deferred", "module"),
+              QStringList{"ProbeModule"});
+    linker()->unloadUnreferenced();
+    EXPECT_EQ(recorder.events().count("probe"), 0);
+    EXPECT_TRUE(linker()->unloadModule(OdString(L"HolderModule")));
+    ASSERT_TRUE(OdSharedLibrary::isLoaded(od(fixture("ProbeModule.tx"))));
+    linker()->unloadUnreferenced();
     // The static object's destructor runs only when the library really leaves the process.
-    EXPECT_EQ(steps({"probe", "module-unloaded"}),
-              QStringList({"probe:uninitApp", "probe:destroyed", "probe:static-destroyed",
-                           "module-unloaded"}));
-    EXPECT_FALSE(OdSharedLibrary::isLoaded(od(path)));
+    EXPECT_EQ(recorder.events().timeline({"probe step", "module-unloaded module"}),
+              QStringList({"module-unloaded HolderModule", "probe uninitApp", "probe destroyed",
+                           "probe static-destroyed", "module-unloaded ProbeModule"}));
+    EXPECT_FALSE(OdSharedLibrary::isLoaded(od(fixture("ProbeModule.tx"))));
     EXPECT_EQ(odedRegCmds()->lookupCmd(OdString(L"PROBE")), nullptr);
-
     EXPECT_FALSE(linker()->unloadModule(OdString(L"ProbeModule")));
     EXPECT_EQ(recorder.events().all().last().name, "module-unload-skipped");
 }
 
-TEST_F(DynamicLinker, SearchPathIsTriedInOrder)
-{
-    QTemporaryDir empty;
-    QTemporaryDir impostor;
-    ASSERT_TRUE(QFile::copy(fixture("NotAModule.tx"), impostor.filePath("ProbeModule.tx")));
-
-    linker()->setSearchPath({od(empty.path()), od(QStringLiteral(EC_FIXTURE_DIR))});
-    EXPECT_FALSE(linker()->loadModule(OdString(L"ProbeModule")).isNull());
-    linker()->unloadAll();
-
-    linker()->setSearchPath({od(impostor.path()), od(QStringLiteral(EC_FIXTURE_DIR))});
-    const QString reason = refusal("ProbeModule");
-    EXPECT_TRUE(reason.contains(impostor.filePath("ProbeModule.tx"))) << qPrintable(reason);
-    EXPECT_TRUE(reason.contains("is not a platform module")) << qPrintable(reason);
-    EXPECT_FALSE(OdSharedLibrary::isLoaded(od(impostor.filePath("ProbeModule.tx"))));
-}
-
 TEST_F(DynamicLinker, RefusesWhatItCannotLoadSilentlyOrWithTheReason)
 {
-    EXPECT_TRUE(linker()->loadModule(OdString(L"Nowhere")).isNull());
-    const auto failed = recorder.events().named("module-load-failed");
-    ASSERT_EQ(failed.size(), 1);
-    EXPECT_EQ(failed[0].field("module"), "Nowhere");
-    EXPECT_TRUE(failed[0].field("reason").contains(QStringLiteral(EC_FIXTURE_DIR)));
-
-    EXPECT_TRUE(
-        refusal("Nowhere").startsWith("module Nowhere not found (looked for Nowhere.tx in"));
-    EXPECT_TRUE(refusal("ForeignApiModule")
-                    .contains("was built for platform API 3.9.0.100, this platform is 4.1"));
-    EXPECT_FALSE(OdSharedLibrary::isLoaded(od(fixture("ForeignApiModule.tx"))));
-    EXPECT_TRUE(refusal("NotAModule").contains("is not a platform module"));
-    EXPECT_FALSE(OdSharedLibrary::isLoaded(od(fixture("NotAModule.tx"))));
-    EXPECT_TRUE(refusal("EmptyModule").contains("created no module object"));
-    EXPECT_FALSE(OdSharedLibrary::isLoaded(od(fixture("EmptyModule.tx"))));
-    EXPECT_EQ(recorder.events().count("module-loaded"), 0);
-
-    linker()->setSearchPath({});
-    EXPECT_TRUE(refusal("ProbeModule").contains("no folder"));
+    QTemporaryDir impostor;
+    ASSERT_TRUE(QFile::copy(fixture("NotAModule.tx"), impostor.filePath("ProbeModule.tx")));
+    linker()->setSearchPath({od(impostor.path()), od(QStringLiteral(EC_FIXTURE_DIR))});
+    const struct
+    {
+        const char* module;
+        QString reason;
+    } cases[] = {
+        {"Nowhere", "module Nowhere not found (looked for Nowhere.tx in: " + impostor.path()},
+        {"ForeignApiModule", "was built for platform API 3.9.0.100, this platform is 4.1"},
+        {"NotAModule", fixture("NotAModule.tx") + " is not a platform module"},
+        {"EmptyModule", "module EmptyModule created no module object"},
+        // The search path is tried in order: a library of that name earlier in it is taken.
+        {"ProbeModule", impostor.filePath("ProbeModule.tx") + " is not a platform module"},
+    };
+    for (const auto& each : cases) {
+        recorder.clear();
+        EXPECT_TRUE(linker()->loadModule(od(each.module)).isNull());
+        const QString reason = recorder.events().values("module-load-failed", "reason").value(0);
+        EXPECT_TRUE(reason.contains(each.reason)) << qPrintable(reason);
+        try {
+            linker()->loadModule(od(each.module), false);
+            ADD_FAILURE() << each.module << " loaded";
+        } catch (const OdError& error) {
+            EXPECT_EQ(qt(error.description()), reason);
+        }
+    }
+    for (const QString& file : {fixture("ForeignApiModule.tx"), fixture("NotAModule.tx"),
+                                fixture("EmptyModule.tx"), impostor.filePath("ProbeModule.tx")})
+        EXPECT_FALSE(OdSharedLibrary::isLoaded(od(file))) << qPrintable(file);
+    EXPECT_TRUE(linker()->loadedModules().empty());
 }
 
-TEST_F(DynamicLinker, UnloadOfAReferencedModuleWaitsForTheLastReference)
+TEST_F(DynamicLinker, UnloadAllGoesLatestFirstAndTakesOffTheCommandsAModuleLeftBehind)
 {
-    // HolderModule keeps a reference to ProbeModule from its start to its deletion.
-    linker()->loadModule(OdString(L"HolderModule"));
-    const QString probePath = fixture("ProbeModule.tx");
-    recorder.clear();
-
-    EXPECT_FALSE(linker()->unloadModule(OdString(L"ProbeModule")));
-    const auto deferred = recorder.events().named("module-unload-deferred");
-    ASSERT_EQ(deferred.size(), 1);
-    EXPECT_EQ(deferred[0].fields.value("references").toInt(), 1);
-    linker()->unloadUnreferenced();
-    EXPECT_EQ(recorder.events().count("probe"), 0);
-
-    EXPECT_TRUE(linker()->unloadModule(OdString(L"HolderModule")));
-    EXPECT_TRUE(OdSharedLibrary::isLoaded(od(probePath)));
-    linker()->unloadUnreferenced();
-    EXPECT_EQ(recorder.events().values("module-unloaded", "module"),
-              QStringList({"HolderModule", "ProbeModule"}));
-    EXPECT_FALSE(OdSharedLibrary::isLoaded(od(probePath)));
-
-    // Loading the module again withdraws the request.
-    linker()->loadModule(OdString(L"HolderModule"));
-    linker()->unloadModule(OdString(L"ProbeModule"));
-    linker()->loadModule(OdString(L"ProbeModule"));
-    linker()->unloadModule(OdString(L"HolderModule"));
-    linker()->unloadUnreferenced();
-    EXPECT_EQ(linker()->loadedModules(), std::vector<OdString>({OdString(L"ProbeModule")}));
-}
-
-TEST_F(DynamicLinker, UnloadAllGoesLatestFirstAndRemembersWhatIsStillReferenced)
-{
+    // ExtCommands registers its Help-menu commands with a main window, which also makes it load
+    // and hold the online connector, and takes them off only when the window goes.
     linker()->setSearchPath({od(QStringLiteral(EC_FIXTURE_DIR)), od(QStringLiteral(EC_STAGE_DIR))});
     linker()->loadModule(OdString(L"ExtCommands"));
+    GetFxSystemServices()->MainFrameCreated(nullptr);
     linker()->loadModule(OdString(L"ProbeModule"));
-    linker()->unloadAll();
-    EXPECT_EQ(recorder.events().values("module-unloaded", "module"),
-              QStringList({"ProbeModule", "ExtCommands"}));
-
+    ASSERT_NE(odedRegCmds()->lookupCmd(OdString(L"CHECKFORUPDATES")), nullptr);
     recorder.clear();
-    linker()->loadModule(OdString(L"ProbeModule"));
-    OdRxModulePtr holder = linker()->loadModule(OdString(L"HolderModule"));
     linker()->unloadAll();
-    EXPECT_EQ(recorder.events().values("module-unload-deferred", "module"),
-              QStringList({"ProbeModule", "HolderModule"}));
-    EXPECT_EQ(recorder.events().count("module-unloaded"), 0);
-
-    holder.release();
-    linker()->unloadUnreferenced();
-    EXPECT_EQ(recorder.events().values("module-unloaded", "module"),
-              QStringList({"HolderModule", "ProbeModule"}));
+    EXPECT_EQ(
+        recorder.events().timeline({"command-removed cause", "module-unloaded module"}),
+        QStringList({"command-removed null", "module-unloaded ProbeModule", "command-removed null",
+                     "command-removed null", "command-removed null",
+                     "command-removed module-unloaded", "command-removed module-unloaded",
+                     "module-unloaded ExtCommands", "module-unloaded QNTForgeportConnector"}));
+    EXPECT_EQ(odedRegCmds()->lookupCmd(OdString(L"CHECKFORUPDATES")), nullptr);
 }

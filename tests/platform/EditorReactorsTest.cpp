@@ -12,7 +12,7 @@
 #include <vector>
 
 namespace {
-// Logs each command start it hears of, then does what the test asks of it.
+// Logs each command start it hears of, then does once what the test asks of it.
 class ScriptedReactor : public OdEditorReactor
 {
 public:
@@ -35,70 +35,39 @@ private:
 using Reactor = OdStaticRxObject<ScriptedReactor>;
 } // namespace
 
-class EditorReactors : public ::testing::Test
+TEST(EditorReactors, ReactorsLeavingOrDestroyedAreForgottenEvenDuringARoundOrAfterTheEditor)
 {
-protected:
-    QStringList round()
-    {
-        log.clear();
-        editor.notify([](OdEditorReactor* reactor) { reactor->commandWillStart(OdString(L"_X")); });
-        return log;
-    }
-
     EventRecorder recorder;
-    OdEditor editor;
     QStringList log;
-};
-
-TEST_F(EditorReactors, AReactorDestroyedWhileAttachedIsForgotten)
-{
-    auto doomed = std::make_unique<Reactor>(QStringLiteral("doomed"), &log);
-    Reactor survivor(QStringLiteral("survivor"), &log);
-    editor.addReactor(doomed.get());
-    editor.addReactor(&survivor);
-    const OdEditorReactor* address = doomed.get();
-
-    doomed.reset();
-    EXPECT_FALSE(editor.hasReactor(address));
-    EXPECT_EQ(editor.reactorCount(), 1u);
-    EXPECT_EQ(round(), QStringList({"survivor"}));
-    const auto removed = recorder.events().named("reactor-removed");
-    ASSERT_EQ(removed.size(), 1);
-    EXPECT_EQ(removed[0].field("cause"), "destroyed");
-    editor.removeReactor(&survivor);
-}
-
-TEST_F(EditorReactors, ANotificationRoundSurvivesReactorsLeavingDuringIt)
-{
+    auto editor = std::make_unique<OdEditor>();
+    const auto round = [&] {
+        log.clear();
+        editor->notify(
+            [](OdEditorReactor* reactor) { reactor->commandWillStart(OdString(L"_X")); });
+        return log;
+    };
     Reactor first(QStringLiteral("first"), &log);
     Reactor second(QStringLiteral("second"), &log);
     Reactor third(QStringLiteral("third"), &log);
     auto fourth = std::make_unique<Reactor>(QStringLiteral("fourth"), &log);
+    auto doomed = std::make_unique<Reactor>(QStringLiteral("doomed"), &log);
     for (OdEditorReactor* reactor :
-         std::vector<OdEditorReactor*>{&first, &second, &third, fourth.get()})
-        editor.addReactor(reactor);
+         std::vector<OdEditorReactor*>{&first, &second, &third, fourth.get(), doomed.get()})
+        editor->addReactor(reactor);
+    doomed.reset();
+    EXPECT_EQ(recorder.events().values("reactor-removed", "cause"), QStringList{"destroyed"});
 
     // The first leaves, the second takes the third out and destroys the fourth.
-    first.action = [&] { editor.removeReactor(&first); };
+    first.action = [&] { editor->removeReactor(&first); };
     second.action = [&] {
-        editor.removeReactor(&third);
+        editor->removeReactor(&third);
         fourth.reset();
     };
     EXPECT_EQ(round(), QStringList({"first", "second"}));
     EXPECT_EQ(round(), QStringList({"second"}));
-    editor.removeReactor(&second);
-}
+    EXPECT_EQ(editor->reactorCount(), 1u);
 
-TEST(EditorLifetime, AReactorOutlivingItsEditorCanStillBeDestroyed)
-{
-    QStringList log;
-    auto reactor = std::make_unique<Reactor>(QStringLiteral("late"), &log);
-    {
-        OdEditor editor;
-        editor.addReactor(reactor.get());
-        EXPECT_TRUE(reactor->reactorAttachments().isAttached());
-    }
-    // Destroying it must not reach back into the editor that is gone.
-    EXPECT_FALSE(reactor->reactorAttachments().isAttached());
-    reactor.reset();
+    // The second outlives the editor: destroying it must not reach back into the editor.
+    editor.reset();
+    EXPECT_FALSE(second.reactorAttachments().isAttached());
 }

@@ -1,7 +1,6 @@
-// The platform's file creation: the access, share and creation-disposition values as the
-// platform has always defined them, a written file reported once it is closed, and OdError
-// for every request that cannot be carried out.
+// The platform's file creation with the Windows access, share and creation-disposition values.
 #include "EventRecorder.h"
+#include "TestStrings.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -12,24 +11,19 @@
 #include <OdRxSystemServices.h>
 
 namespace {
-OdString od(const QString& text)
-{
-    return OdString(text.toStdWString());
-}
-
 class FileServices : public ::testing::Test
 {
 protected:
-    QString path(const QString& name) const { return m_folder.filePath(name); }
+    QString path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
 
-    void writeFile(const QString& name, const QByteArray& content) const
+    void writeFile(const char* name, const QByteArray& content) const
     {
         QFile file(path(name));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(content);
     }
 
-    QByteArray contentOf(const QString& name) const
+    QByteArray contentOf(const char* name) const
     {
         QFile file(path(name));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<none>");
@@ -50,102 +44,76 @@ protected:
     }
 
     QTemporaryDir m_folder;
+    EventRecorder m_events;
 };
 
-TEST_F(FileServices, WritingWithTheHostsValuesReplacesTheFileAndReportsItWhenClosed)
+TEST_F(FileServices, RequestsAreCarriedOutAsTheirWindowsValuesSayOrRefusedWithTheReason)
 {
-    writeFile(QStringLiteral("plan.dxf"), "an older and longer content");
-    EventRecorder events;
-    OdStreamBufPtr stream = create(path(QStringLiteral("plan.dxf")), 1073741824, 64, 2);
-    put(stream, "new");
-    EXPECT_EQ(events.events().count(QStringLiteral("file-written")), 0)
-        << "not before it is closed";
-    stream.release();
-    EXPECT_EQ(contentOf(QStringLiteral("plan.dxf")), QByteArray("new"));
-    EXPECT_EQ(events.events().values(QStringLiteral("file-written"), QStringLiteral("path")),
-              QStringList{path(QStringLiteral("plan.dxf"))});
-
-    create(path(QStringLiteral("plan.dxf")), Oda::kFileRead, Oda::kShareDenyNo, Oda::kOpenExisting)
-        .release();
-    EXPECT_EQ(events.events().count(QStringLiteral("file-written")), 1) << "reading writes nothing";
-}
-
-TEST_F(FileServices, CreationDispositionsFollowTheirWindowsMeaning)
-{
-    writeFile(QStringLiteral("old"), "kept");
     const unsigned write = Oda::kFileWrite;
-    EXPECT_THROW(create(path(QStringLiteral("old")), write, 64, Oda::kCreateNew), OdError);
-    EXPECT_THROW(create(path(QStringLiteral("none")), write, 64, Oda::kOpenExisting), OdError);
-    EXPECT_THROW(create(path(QStringLiteral("none")), write, 64, Oda::kTruncateExisting), OdError);
-    EXPECT_FALSE(QFile::exists(path(QStringLiteral("none"))));
-
-    create(path(QStringLiteral("old")), write, 64, Oda::kOpenAlways).release();
-    EXPECT_EQ(contentOf(QStringLiteral("old")), QByteArray("kept"));
-    create(path(QStringLiteral("old")), write, 64, Oda::kOpenExisting).release();
-    EXPECT_EQ(contentOf(QStringLiteral("old")), QByteArray("kept"));
-    put(create(path(QStringLiteral("fresh")), write, 64, Oda::kOpenAlways), "made");
-    EXPECT_EQ(contentOf(QStringLiteral("fresh")), QByteArray("made"));
-    put(create(path(QStringLiteral("new")), write, 64, Oda::kCreateNew), "made");
-    EXPECT_EQ(contentOf(QStringLiteral("new")), QByteArray("made"));
-    create(path(QStringLiteral("old")), write, 64, Oda::kTruncateExisting).release();
-    EXPECT_EQ(contentOf(QStringLiteral("old")), QByteArray());
+    const struct
+    {
+        const char* file;
+        unsigned access, share, disposition;
+        bool exists;       // the file holds "kept" before
+        const char* after; // its content after writing "new"; null: refused
+    } cases[] = {
+        // 1 create new, 2 create always, 3 open existing, 4 open always, 5 truncate existing;
+        // 1073741824 and 64 are the values the module writes its copy with.
+        {"f", write, 64, 1, true, nullptr},
+        {"f", write, 64, 1, false, "new"},
+        {"f", 1073741824, 64, 2, true, "new"},
+        {"f", write, 64, 2, false, "new"},
+        {"f", write, 64, 3, true, "newt"},
+        {"f", write, 64, 3, false, nullptr},
+        {"f", write, 64, 4, true, "newt"},
+        {"f", write, 64, 4, false, "new"},
+        {"f", write, 64, 5, true, "new"},
+        {"f", write, 64, 5, false, nullptr},
+        {"no/such/folder/f", write, 64, 2, false, nullptr},
+        {".", write, 64, 2, false, nullptr},
+        {"f", 0, 64, 2, false, nullptr},
+        {"f", 0x20000000u, 64, 2, false, nullptr},
+        {"f", write, 0x50, 2, false, nullptr},
+        {"f", write, 64, 6, false, nullptr},
+        {"f", Oda::kFileRead, 64, 2, false, nullptr}};
+    for (const auto& each : cases) {
+        SCOPED_TRACE(testing::Message() << each.file << ' ' << each.access << ' ' << each.share
+                                        << ' ' << each.disposition << ' ' << each.exists);
+        QFile::remove(path("f"));
+        if (each.exists)
+            writeFile(each.file, "kept");
+        try {
+            put(create(path(each.file), each.access, each.share, each.disposition), "new");
+            EXPECT_EQ(contentOf(each.file), QByteArray(each.after));
+        } catch (const OdError& error) {
+            EXPECT_EQ(each.after, nullptr) << error.what();
+            EXPECT_TRUE(QString::fromUtf8(error.what()).contains(path(each.file))) << error.what();
+            EXPECT_EQ(contentOf(each.file), each.exists ? QByteArray("kept") : "<none>");
+        }
+    }
 }
 
-TEST_F(FileServices, AStreamDoesOnlyWhatItsAccessAllows)
+TEST_F(FileServices, AccessAndSharingAreHonouredAndAWrittenFileIsReportedWhenClosed)
 {
-    writeFile(QStringLiteral("data"), "abc");
+    writeFile("data", "abc");
     char buffer[4] = {};
-    OdStreamBufPtr reading =
-        create(path(QStringLiteral("data")), Oda::kFileRead, 64, Oda::kOpenExisting);
-    EXPECT_EQ(reading->length(), 3u);
+    OdStreamBufPtr reading = create(path("data"), Oda::kFileRead, Oda::kShareDenyWrite, 3);
     reading->getBytes(buffer, 3);
     EXPECT_EQ(QByteArray(buffer, 3), QByteArray("abc"));
-    EXPECT_THROW(reading->getBytes(buffer, 1), OdError) << "past the end";
     EXPECT_THROW(put(reading, "x"), OdError);
-    reading.release();
-
-    OdStreamBufPtr writing =
-        create(path(QStringLiteral("data")), Oda::kFileWrite, 64, Oda::kOpenExisting);
-    EXPECT_THROW(writing->getBytes(buffer, 1), OdError);
-    writing.release();
-
-    EXPECT_THROW(create(path(QStringLiteral("other")), Oda::kFileRead, 64, Oda::kCreateAlways),
-                 OdError)
-        << "creating needs write access";
-    EXPECT_FALSE(QFile::exists(path(QStringLiteral("other"))));
-}
-
-TEST_F(FileServices, SharingIsHonouredAmongTheOpenStreams)
-{
-    writeFile(QStringLiteral("shared"), "abc");
-    const QString file = path(QStringLiteral("shared"));
-    OdStreamBufPtr guarded = create(file, Oda::kFileRead, Oda::kShareDenyWrite, Oda::kOpenExisting);
-    EXPECT_THROW(create(file, Oda::kFileWrite, Oda::kShareDenyNo, Oda::kOpenExisting), OdError);
-    EXPECT_NO_THROW(create(file, Oda::kFileRead, Oda::kShareDenyNo, Oda::kOpenExisting));
-    EXPECT_THROW(create(file, Oda::kFileRead, Oda::kShareDenyRead, Oda::kOpenExisting), OdError)
+    EXPECT_THROW(create(path("data"), Oda::kFileWrite, Oda::kShareDenyNo, 3), OdError);
+    EXPECT_NO_THROW(create(path("data"), Oda::kFileRead, Oda::kShareDenyNo, 3));
+    EXPECT_THROW(create(path("data"), Oda::kFileRead, Oda::kShareDenyRead, 3), OdError)
         << "a new stream may not deny what an open one does";
-    guarded.release();
-    EXPECT_NO_THROW(create(file, Oda::kFileWrite, Oda::kShareDenyReadWrite, Oda::kOpenExisting));
-}
+    reading.release();
+    EXPECT_EQ(m_events.events().count(QStringLiteral("file-written")), 0);
 
-TEST_F(FileServices, RequestsThatCannotBeCarriedOutThrowWithTheReason)
-{
-    EventRecorder events;
-    const QString unreachable = path(QStringLiteral("no/such/folder/plan.dxf"));
-    try {
-        create(unreachable, Oda::kFileWrite, Oda::kShareDenyNo, Oda::kCreateAlways);
-        ADD_FAILURE() << "created a file in a folder that does not exist";
-    } catch (const OdError& error) {
-        EXPECT_TRUE(QString::fromUtf8(error.what()).contains(unreachable)) << error.what();
-    }
-    EXPECT_THROW(create(m_folder.path(), Oda::kFileWrite, Oda::kShareDenyNo, Oda::kCreateAlways),
-                 OdError)
-        << "a folder is not a file";
-    EXPECT_THROW(create(path(QStringLiteral("x")), 0, 64, 2), OdError);
-    EXPECT_THROW(create(path(QStringLiteral("x")), 0x20000000u, 64, 2), OdError);
-    EXPECT_THROW(create(path(QStringLiteral("x")), Oda::kFileWrite, 0x50, 2), OdError);
-    EXPECT_THROW(create(path(QStringLiteral("x")), Oda::kFileWrite, 64, 6), OdError);
-    EXPECT_FALSE(QFile::exists(path(QStringLiteral("x"))));
-    EXPECT_EQ(events.events().count(QStringLiteral("file-written")), 0);
+    OdStreamBufPtr writing = create(path("data"), Oda::kFileWrite, Oda::kShareDenyReadWrite, 3);
+    EXPECT_THROW(writing->getBytes(buffer, 1), OdError);
+    EXPECT_THROW(create(path("data"), Oda::kFileRead, Oda::kShareDenyNo, 3), OdError);
+    EXPECT_EQ(m_events.events().count(QStringLiteral("file-written")), 0) << "not before closing";
+    writing.release();
+    EXPECT_EQ(m_events.events().values(QStringLiteral("file-written"), QStringLiteral("path")),
+              QStringList{path("data")});
 }
 } // namespace
