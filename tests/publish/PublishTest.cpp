@@ -1,8 +1,7 @@
 // "VIEWCAST" end to end: quillon-host with the module, on a private session bus where the
 // reference viewer is installed for chosen versions, publishing drawings made by ezdxf. What
-// the viewer was asked shows as viewer-call events, the task pane's notice as a companion-call
-// of the test's task pane, the copies as files in the test's home.
-#include "DrawingScripts.h"
+// the viewer was asked shows as viewer-call events, the task pane's notice as a companion-call,
+// the copies as files in the test's home.
 #include "HostProcess.h"
 #include "PrivateSessionBus.h"
 
@@ -19,12 +18,21 @@
 #include <optional>
 
 namespace {
-const QString kViewerCall = QStringLiteral("viewer-call");
-const QString kDispatch = QStringLiteral("IDispatch::Invoke(53)");
-const QString kInterface = QStringLiteral("IVcModelViewApp::OpenDocument");
-// The owner's, the group's and the others' permission bits (not the "user" ones, which
-// repeat the owner's for the one who asks).
-constexpr int kModeBits = 0x7077;
+const QString kCurrentVersion = "HKEY_CLASSES_ROOT/VcModelViewer.VcstViewer/CurVer/Default";
+
+// Runs one of the ezdxf scripts beside this file with the system's Python; its exit code, and
+// what it printed in `output`.
+int python(const QString& script, const QStringList& arguments, QString* output = nullptr)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start("/usr/bin/python3",
+                  QStringList{EC_SOURCE_DIR "/tests/publish/" + script} + arguments);
+    const bool finished = process.waitForFinished(120000);
+    if (output)
+        *output = QString::fromUtf8(process.readAll());
+    return finished && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+}
 
 QByteArray contentOf(const QString& path)
 {
@@ -40,20 +48,16 @@ void writeFile(const QString& path, const QByteArray& content)
     file.write(content);
 }
 
-QStringList filesIn(const QString& folder)
-{
-    QStringList names = QDir(folder).entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot);
-    names.sort();
-    return names;
-}
-
 class PublishToViewcast : public ::testing::Test
 {
 protected:
+    // The drawings of make-drawings.py, made once for all tests.
     static void SetUpTestSuite()
     {
         s_drawings = new QTemporaryDir;
-        DrawingScripts::make(s_drawings->path());
+        QString output;
+        ASSERT_EQ(python("make-drawings.py", {s_drawings->path()}, &output), 0)
+            << output.toStdString();
     }
 
     static void TearDownTestSuite()
@@ -62,102 +66,72 @@ protected:
         s_drawings = nullptr;
     }
 
-    PublishToViewcast() : m_bus(m_host.home() + QStringLiteral("/bus"))
+    PublishToViewcast() : m_bus(m_host.home() + "/bus")
     {
         m_host.setLauncher(m_bus.launcher());
+        // Only the module's own conversion may change the names in a script (read as UTF-8).
+        m_host.setEnvironment("LC_ALL", "C.UTF-8");
     }
 
-    static QString drawing(const QString& name)
-    {
-        return s_drawings->path() + QLatin1Char('/') + name;
-    }
-
-    QString registryFile() const { return m_host.home() + QStringLiteral("/registry.ini"); }
+    static QString drawing(const QString& name) { return s_drawings->filePath(name); }
+    QString registryFile() const { return m_host.home() + "/registry.ini"; }
     QString scratch(const QString& name = QString()) const
     {
-        return m_host.home() + QStringLiteral("/temp_tarn") +
-               (name.isEmpty() ? QString() : QLatin1Char('/') + name);
+        return m_host.home() + "/temp_tarn" + (name.isEmpty() ? QString() : '/' + name);
     }
 
-    // Installs the reference viewer's servers for `versions` on the test's bus; the registry
-    // names `current` (by default the newest of them).
-    void installViewer(const QList<int>& versions, const QString& current = QString())
+    // Installs the reference viewer's servers for `versions` (and only them) on the test's bus;
+    // the registry names the newest of them.
+    void installViewer(const QList<int>& versions)
     {
-        QStringList arguments{QStringLiteral("--install"), m_bus.serviceFolder(),
-                              QStringLiteral("--registry"), registryFile()};
+        QDir(m_bus.serviceFolder()).removeRecursively();
+        QDir().mkpath(m_bus.serviceFolder());
+        QStringList arguments{"--install", m_bus.serviceFolder(), "--registry", registryFile()};
         for (int version : versions)
-            arguments << QStringLiteral("--version") << QString::number(version);
-        if (!current.isEmpty())
-            arguments << QStringLiteral("--current") << current;
-        QProcess installer;
-        installer.setProcessChannelMode(QProcess::MergedChannels);
-        installer.start(HostProcess::stageFolder() + QStringLiteral("/vcst-viewer"), arguments);
-        ASSERT_TRUE(installer.waitForFinished(60000));
-        ASSERT_EQ(installer.exitCode(), 0) << installer.readAll().toStdString();
+            arguments << "--version" << QString::number(version);
+        ASSERT_EQ(QProcess::execute(HostProcess::stageFolder() + "/vcst-viewer", arguments), 0);
     }
 
-    // Runs the host: the module loaded, `path` open, the command typed, the events waited for.
-    HostResult publish(const QString& path)
+    // Runs the host with the module: each drawing opened and published in turn.
+    HostResult publish(const QStringList& paths)
     {
-        return m_host.runScript(QStringLiteral("open \"%1\"\nVIEWCAST\nwait-events").arg(path),
-                                {QStringLiteral("--registry"), registryFile()});
+        QString script;
+        for (const QString& path : paths)
+            script += QString("open \"%1\"\nVIEWCAST\nwait-events\n").arg(path);
+        writeFile(m_host.home() + "/publish.qs", script.toUtf8());
+        HostResult result =
+            m_host.run({m_host.home() + "/publish.qs", "--registry", registryFile()});
+        EXPECT_EQ(result.exitCode, 0) << result.standardError.toStdString();
+        EXPECT_EQ(result.events.timeline({"command-ended result"}),
+                  QVector<QString>(paths.size(), "command-ended 5100").toList());
+        return result;
     }
 
-    static QJsonArray openArguments(const QString& copy, const QString& viewerName)
-    {
-        return {copy, viewerName, QString(), QString(), true, true};
-    }
-
-    static void expectFinished(const HostResult& result)
-    {
-        ASSERT_EQ(result.exitCode, 0) << result.standardError.toStdString();
-        EXPECT_EQ(result.events.values(QStringLiteral("command-ended"), QStringLiteral("name")),
-                  QStringList{QStringLiteral("VIEWCAST")});
-        EXPECT_EQ(result.events.named(QStringLiteral("command-ended"))
-                      .value(0)
-                      .fields.value(QStringLiteral("result"))
-                      .toInt(),
-                  5100);
-    }
-
-    // What the module asked of the task pane (the other companions of the stage folder, such
-    // as the crash-report service, have their own business at start-up).
-    static QStringList taskPaneCalls(const HostResult& result)
+    // The arguments of each call to the viewer ("server call result path viewerName").
+    static QStringList viewerCalls(const HostResult& result)
     {
         QStringList calls;
-        for (const RecordedEvent& event : result.events.named(QStringLiteral("companion-call"))) {
-            if (event.field(QStringLiteral("library")) == QLatin1String("TarnTaskPane"))
-                calls << event.field(QStringLiteral("call"));
+        for (const RecordedEvent& call : result.events.named("viewer-call")) {
+            const QJsonArray args = call.fields["args"].toArray();
+            EXPECT_EQ(args, (QJsonArray{args[0], args[1], "", "", true, true}));
+            calls << QStringList{call.field("server"), call.field("call"), call.field("result"),
+                                 args[0].toString(), args[1].toString()}
+                         .join(' ');
         }
         return calls;
     }
 
-    // The module's own error box (the task pane shows its notice in a box of its own).
-    static QVector<RecordedEvent> errorBoxes(const HostResult& result)
+    // What the module asked of the task pane, and its own error boxes.
+    static QStringList taskPaneAndErrors(const HostResult& result)
     {
-        QVector<RecordedEvent> boxes;
-        for (const RecordedEvent& event : result.events.named(QStringLiteral("message-box"))) {
-            if (event.field(QStringLiteral("caption")) == QLatin1String("Error"))
-                boxes << event;
+        QStringList seen;
+        for (const RecordedEvent& event : result.events.all()) {
+            if (event.name == "companion-call" && event.field("library") == "TarnTaskPane")
+                seen << event.field("call");
+            if (event.name == "message-box" && event.field("caption") == "Error")
+                seen << event.field("text");
         }
-        return boxes;
-    }
-
-    static void expectNoticeOnly(const HostResult& result)
-    {
-        EXPECT_EQ(taskPaneCalls(result), QStringList{QStringLiteral("showViewcastMeassage")});
-        EXPECT_EQ(result.events.count(kViewerCall), 0);
-        EXPECT_TRUE(errorBoxes(result).isEmpty());
-    }
-
-    static void expectErrorBoxOnly(const HostResult& result)
-    {
-        const auto boxes = errorBoxes(result);
-        ASSERT_EQ(boxes.size(), 1);
-        EXPECT_EQ(boxes[0].field(QStringLiteral("text")),
-                  QStringLiteral("Can not publish this document to Viewcast"));
-        EXPECT_EQ(result.events.count(kViewerCall), 0);
-        EXPECT_TRUE(taskPaneCalls(result).isEmpty());
+        return seen;
     }
 
     static QTemporaryDir* s_drawings;
@@ -167,190 +141,107 @@ protected:
 
 QTemporaryDir* PublishToViewcast::s_drawings = nullptr;
 
-TEST_F(PublishToViewcast, NewestCreatableVersionBelowTheCurrentOneIsDrivenByDispatch)
+TEST_F(PublishToViewcast, NewestCreatableVersionUpToTheCurrentOneOpensTheCopyOrTheTaskPaneTells)
 {
-    installViewer({9, 10}, QStringLiteral("VcModelViewer.VcstViewer.12"));
-    const HostResult result = publish(drawing(QStringLiteral("site/plan.dxf")));
-    expectFinished(result);
-    const auto calls = result.events.named(kViewerCall);
-    ASSERT_EQ(calls.size(), 1) << result.standardError.toStdString();
-    EXPECT_EQ(calls[0].field(QStringLiteral("server")),
-              QStringLiteral("VcModelViewer.VcstViewer.10"));
-    EXPECT_EQ(calls[0].field(QStringLiteral("call")), kDispatch);
-    EXPECT_EQ(calls[0].fields.value(QStringLiteral("args")).toArray(),
-              openArguments(scratch(QStringLiteral("plan.dxf")), QStringLiteral("plan.vcst")));
-    EXPECT_EQ(calls[0].field(QStringLiteral("result")), QStringLiteral("opened"));
-    EXPECT_TRUE(taskPaneCalls(result).isEmpty());
-}
-
-TEST_F(PublishToViewcast, VersionNineIsDrivenThroughItsOwnInterface)
-{
-    installViewer({9});
-    const HostResult result = publish(drawing(QStringLiteral("site/plan.dxf")));
-    expectFinished(result);
-    const auto calls = result.events.named(kViewerCall);
-    ASSERT_EQ(calls.size(), 1) << result.standardError.toStdString();
-    EXPECT_EQ(calls[0].field(QStringLiteral("server")),
-              QStringLiteral("VcModelViewer.VcstViewer.9"));
-    EXPECT_EQ(calls[0].field(QStringLiteral("call")), kInterface);
-    EXPECT_EQ(calls[0].fields.value(QStringLiteral("args")).toArray(),
-              openArguments(scratch(QStringLiteral("plan.dxf")), QStringLiteral("plan.vcst")));
-    EXPECT_EQ(calls[0].field(QStringLiteral("result")), QStringLiteral("opened"));
-}
-
-TEST_F(PublishToViewcast, ViewerMissingOrTooOldLeavesItToTheTaskPane)
-{
-    struct Case
+    const QString opened = "opened " + scratch("plan.dxf") + " plan.vcst";
+    const struct
     {
-        const char* what;
-        std::optional<QString> current;
         QList<int> installed;
+        std::optional<QString> current; // the installer's value when not given
+        QString call;                   // empty: the task pane's notice
+    } cases[] = {
+        {{9, 10},
+         "VcModelViewer.VcstViewer.12",
+         "VcModelViewer.VcstViewer.10 IDispatch::Invoke(53) " + opened},
+        {{10, 11},
+         "VcModelViewer.VcstViewer.12",
+         "VcModelViewer.VcstViewer.11 IDispatch::Invoke(53) " + opened},
+        {{9}, {}, "VcModelViewer.VcstViewer.9 IVcModelViewApp::OpenDocument " + opened},
+        {{9}, QString(), ""},
+        {{9}, "VcModelViewer", ""},
+        {{9}, "VcModelViewer.VcstViewer.abc", ""},
+        {{9}, "VcModelViewer.VcstViewer.8", ""},
     };
-    const Case cases[] = {
-        {"no current version", std::nullopt, {9, 10}},
-        {"no dot", QStringLiteral("VcModelViewer"), {9}},
-        {"not a number", QStringLiteral("VcModelViewer.VcstViewer.abc"), {9}},
-        {"zero", QStringLiteral("VcModelViewer.VcstViewer.0"), {9}},
-        {"below 9", QStringLiteral("VcModelViewer.VcstViewer.8"), {9}},
-        {"none creatable", QStringLiteral("VcModelViewer.VcstViewer.12"), {}},
-    };
-    for (const Case& each : cases) {
-        SCOPED_TRACE(each.what);
-        QDir(m_bus.serviceFolder()).removeRecursively();
-        QDir().mkpath(m_bus.serviceFolder());
-        QFile::remove(registryFile());
-        if (!each.installed.isEmpty())
-            installViewer(each.installed);
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.current.value_or("installer's").toStdString());
+        installViewer(each.installed);
         QSettings registry(registryFile(), QSettings::IniFormat);
-        const QString key =
-            QStringLiteral("HKEY_CLASSES_ROOT/VcModelViewer.VcstViewer/CurVer/Default");
-        if (each.current)
-            registry.setValue(key, *each.current);
-        else
-            registry.remove(key);
+        if (each.current && each.current->isEmpty())
+            registry.remove(kCurrentVersion);
+        else if (each.current)
+            registry.setValue(kCurrentVersion, *each.current);
         registry.sync();
+        QDir(scratch()).removeRecursively();
 
-        const HostResult result = publish(drawing(QStringLiteral("site/plan.dxf")));
-        expectFinished(result);
-        expectNoticeOnly(result);
-        EXPECT_EQ(result.events.count(QStringLiteral("file-written")), 0);
-        EXPECT_FALSE(QFileInfo::exists(scratch())) << "nothing is saved without a viewer";
+        const HostResult result = publish({drawing("site/plan.dxf")});
+        if (each.call.isEmpty()) {
+            EXPECT_TRUE(viewerCalls(result).isEmpty());
+            EXPECT_EQ(taskPaneAndErrors(result), QStringList{"showViewcastMeassage"});
+            EXPECT_FALSE(QFileInfo::exists(scratch())) << "nothing is saved without a viewer";
+        } else {
+            EXPECT_EQ(viewerCalls(result), QStringList{each.call});
+            EXPECT_TRUE(taskPaneAndErrors(result).isEmpty());
+        }
     }
 }
 
-TEST_F(PublishToViewcast, CopyIsWrittenLosslesslyIntoTheScratchFolderWhereverTheDrawingIs)
-{
-    installViewer({11});
-    const QString elsewhere = m_host.home() + QStringLiteral("/projects/2024 north/plan.dxf");
-    writeFile(elsewhere, contentOf(drawing(QStringLiteral("site/plan.dxf"))));
-
-    const HostResult result = publish(elsewhere);
-    expectFinished(result);
-    EXPECT_EQ(result.events.values(QStringLiteral("file-written"), QStringLiteral("path")),
-              QStringList{scratch(QStringLiteral("plan.dxf"))});
-    EXPECT_EQ(DrawingScripts::check(scratch(QStringLiteral("plan.dxf")), elsewhere), QString());
-    EXPECT_EQ(contentOf(scratch(QStringLiteral("plan.dxf"))), contentOf(elsewhere));
-    const auto calls = result.events.named(kViewerCall);
-    ASSERT_EQ(calls.size(), 1);
-    EXPECT_EQ(calls[0].fields.value(QStringLiteral("args")).toArray(),
-              openArguments(scratch(QStringLiteral("plan.dxf")), QStringLiteral("plan.vcst")));
-}
-
-TEST_F(PublishToViewcast, ViewerIsGivenLatin1TextSoOtherCharactersArriveAsQuestionMarks)
+TEST_F(PublishToViewcast, CopiesGoIntoTheScratchFolderLosslesslyOnceEachAndOverwritingNothing)
 {
     installViewer({10});
-    // The script goes in a file (read as UTF-8) and the host runs in a UTF-8 locale, so that
-    // only the module's own conversion can change the names.
-    m_host.setEnvironment(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-    const QString script = m_host.home() + QStringLiteral("/publish.qs");
-    writeFile(script, QStringLiteral("open \"%1\"\nVIEWCAST\nwait-events\nopen \"%2\"\nVIEWCAST\n"
-                                     "wait-events\n")
-                          .arg(drawing(QStringLiteral("site/café.dxf")),
-                               drawing(QStringLiteral("site/平面.dxf")))
-                          .toUtf8());
-    const HostResult result = m_host.run({script, QStringLiteral("--registry"), registryFile()});
-    ASSERT_EQ(result.exitCode, 0) << result.standardError.toStdString();
-    EXPECT_EQ(
-        result.events.values(QStringLiteral("file-written"), QStringLiteral("path")),
-        (QStringList{scratch(QStringLiteral("café.dxf")), scratch(QStringLiteral("平面.dxf"))}));
-    const auto calls = result.events.named(kViewerCall);
-    ASSERT_EQ(calls.size(), 2);
-    EXPECT_EQ(calls[0].fields.value(QStringLiteral("args")).toArray(),
-              openArguments(scratch(QStringLiteral("café.dxf")), QStringLiteral("café.vcst")));
-    EXPECT_EQ(calls[0].field(QStringLiteral("result")), QStringLiteral("opened"));
-    EXPECT_EQ(calls[1].fields.value(QStringLiteral("args")).toArray(),
-              openArguments(scratch(QStringLiteral("??.dxf")), QStringLiteral("??.vcst")));
-    EXPECT_TRUE(
-        calls[1].field(QStringLiteral("result")).startsWith(QStringLiteral("no such file")));
-}
-
-TEST_F(PublishToViewcast, ScratchFolderWithFilesStaysAndAnEmptyOneIsMadeAnew)
-{
-    installViewer({10});
-    // A mode that a folder the module makes never has: it tells the old folder from a new one.
+    // A drawing in a folder of its own; a scratch folder left with files by an earlier run, in
+    // a mode that a folder the module makes never has.
+    const QString elsewhere = m_host.home() + "/projects/2024 north/plan.dxf";
+    writeFile(elsewhere, contentOf(drawing("site/plan.dxf")));
+    writeFile(scratch("earlier.txt"), "from a run before");
+    writeFile(scratch("c.dxf"), "kept from before");
     const QFile::Permissions marked =
         QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ExeOther;
-    ASSERT_TRUE(QDir().mkpath(scratch()));
     ASSERT_TRUE(QFile::setPermissions(scratch(), marked));
 
-    expectFinished(publish(drawing(QStringLiteral("site/plan.dxf"))));
-    EXPECT_NE(QFileInfo(scratch()).permissions() & kModeBits, marked)
-        << "the empty folder was kept";
-    EXPECT_EQ(filesIn(scratch()), QStringList{QStringLiteral("plan.dxf")});
-
-    writeFile(scratch(QStringLiteral("earlier.txt")), "from a run before");
-    QFile::remove(scratch(QStringLiteral("plan.dxf")));
-    ASSERT_TRUE(QFile::setPermissions(scratch(), marked));
-    const HostResult again = publish(drawing(QStringLiteral("site/plan.dxf")));
-    expectFinished(again);
-    EXPECT_EQ(QFileInfo(scratch()).permissions() & kModeBits, marked) << "the folder was replaced";
-    EXPECT_EQ(filesIn(scratch()),
-              (QStringList{QStringLiteral("earlier.txt"), QStringLiteral("plan.dxf")}));
-    EXPECT_EQ(contentOf(scratch(QStringLiteral("earlier.txt"))), QByteArray("from a run before"));
-    EXPECT_EQ(again.events.count(kViewerCall), 1);
-}
-
-TEST_F(PublishToViewcast, ReferencedDrawingsAreCopiedOnceEachWithoutOverwriting)
-{
-    installViewer({10});
-    writeFile(scratch(QStringLiteral("c.dxf")), "kept from before");
-
-    const HostResult result = publish(drawing(QStringLiteral("tree/main.dxf")));
-    expectFinished(result);
-    EXPECT_EQ(filesIn(scratch()),
-              (QStringList{QStringLiteral("a.dxf"), QStringLiteral("b.dxf"),
-                           QStringLiteral("c.dxf"), QStringLiteral("main.dxf")}));
-    EXPECT_EQ(contentOf(scratch(QStringLiteral("a.dxf"))),
-              contentOf(drawing(QStringLiteral("tree/parts/a.dxf"))));
-    EXPECT_EQ(contentOf(scratch(QStringLiteral("b.dxf"))),
-              contentOf(drawing(QStringLiteral("tree/shared/b.dxf"))));
-    EXPECT_EQ(contentOf(scratch(QStringLiteral("c.dxf"))), QByteArray("kept from before"));
-    EXPECT_EQ(contentOf(scratch(QStringLiteral("main.dxf"))),
-              contentOf(drawing(QStringLiteral("tree/main.dxf"))))
-        << "the circular reference back to main.dxf must not replace the written copy";
-    EXPECT_EQ(result.events.values(QStringLiteral("file-written"), QStringLiteral("path")),
-              QStringList{scratch(QStringLiteral("main.dxf"))});
-    const auto calls = result.events.named(kViewerCall);
-    ASSERT_EQ(calls.size(), 1);
-    EXPECT_EQ(calls[0].fields.value(QStringLiteral("args")).toArray(),
-              openArguments(scratch(QStringLiteral("main.dxf")), QStringLiteral("main.vcst")));
+    const HostResult result = publish(
+        {elsewhere, drawing("tree/main.dxf"), drawing("site/café.dxf"), drawing("site/平面.dxf")});
+    EXPECT_EQ(QFileInfo(scratch()).permissions() & 0x7077, marked) << "the folder was replaced";
+    EXPECT_EQ(result.events.values("file-written", "path"),
+              QStringList({scratch("plan.dxf"), scratch("main.dxf"), scratch("café.dxf"),
+                           scratch("平面.dxf")}));
+    QString check;
+    EXPECT_EQ(python("check-drawing.py", {scratch("plan.dxf"), elsewhere}, &check), 0)
+        << check.toStdString();
+    // The tree: main.dxf refers to parts/a.dxf and missing.dxf, a.dxf to ../shared/b.dxf and
+    // c.dxf, b.dxf back to main.dxf and a.dxf.
+    EXPECT_EQ(QDir(scratch()).entryList(QDir::Files, QDir::Name),
+              QStringList({"a.dxf", "b.dxf", "c.dxf", "café.dxf", "earlier.txt", "main.dxf",
+                           "plan.dxf", "平面.dxf"}));
+    EXPECT_EQ(contentOf(scratch("a.dxf")), contentOf(drawing("tree/parts/a.dxf")));
+    EXPECT_EQ(contentOf(scratch("b.dxf")), contentOf(drawing("tree/shared/b.dxf")));
+    EXPECT_EQ(contentOf(scratch("main.dxf")), contentOf(drawing("tree/main.dxf")));
+    EXPECT_EQ(contentOf(scratch("c.dxf")), QByteArray("kept from before"));
+    EXPECT_EQ(contentOf(scratch("earlier.txt")), QByteArray("from a run before"));
+    // The viewer gets 8-bit text: a character beyond Latin-1 arrives as "?".
+    const QString server = "VcModelViewer.VcstViewer.10 IDispatch::Invoke(53) ";
+    EXPECT_EQ(viewerCalls(result),
+              QStringList({server + "opened " + scratch("plan.dxf") + " plan.vcst",
+                           server + "opened " + scratch("main.dxf") + " main.vcst",
+                           server + "opened " + scratch("café.dxf") + " café.vcst",
+                           server + "no such file: " + scratch("??.dxf") + " " + scratch("??.dxf") +
+                               " ??.vcst"}));
 }
 
 TEST_F(PublishToViewcast, DrawingNeverSavedOrScratchFolderNotWritableShowsTheErrorBox)
 {
     installViewer({10});
-    const QString notes = m_host.home() + QStringLiteral("/notes.txt");
-    writeFile(notes, "not a drawing\n");
-    const HostResult unsaved = publish(notes);
-    expectFinished(unsaved);
-    expectErrorBoxOnly(unsaved);
-    EXPECT_EQ(unsaved.events.count(QStringLiteral("file-written")), 0);
-
+    const auto expectErrorBoxOnly = [this](const QString& path) {
+        const HostResult result = publish({path});
+        EXPECT_EQ(taskPaneAndErrors(result),
+                  QStringList{"Can not publish this document to Viewcast"});
+        EXPECT_TRUE(viewerCalls(result).isEmpty());
+        EXPECT_EQ(result.events.count("file-written"), 0);
+    };
+    writeFile(m_host.home() + "/notes.txt", "not a drawing\n");
+    expectErrorBoxOnly(m_host.home() + "/notes.txt");
     QDir(scratch()).removeRecursively();
     writeFile(scratch(), "a file where the scratch folder should be");
-    const HostResult unwritable = publish(drawing(QStringLiteral("site/plan.dxf")));
-    expectFinished(unwritable);
-    expectErrorBoxOnly(unwritable);
+    expectErrorBoxOnly(drawing("site/plan.dxf"));
     EXPECT_EQ(contentOf(scratch()), QByteArray("a file where the scratch folder should be"));
 }
 } // namespace
