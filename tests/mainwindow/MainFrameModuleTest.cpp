@@ -14,31 +14,22 @@
 #include <memory>
 
 namespace {
-// The default profile's main group; the small profiles call theirs "MAIN".
+// The default profile's main group; the small profiles of the fixtures call theirs "MAIN".
 const QString kQuillon = QStringLiteral("QUILLON");
 const QString kMain = QStringLiteral("MAIN");
 const QString kCheck = QStringLiteral("ID_CHECKFORUPDATES");
 const QString kNotes = QStringLiteral("ID_RELEASENOTES");
-const QString kSeparator = QStringLiteral("ID_SEPARATOR");
 // The module's block in the ribbon's system menu.
-const QStringList kBlock{kSeparator, QStringLiteral("Check for Updates... -> CHECKFORUPDATES"),
-                         QStringLiteral("Quillon Release Notes... -> RELEASENOTES"), kSeparator};
+const QStringList kBlock{"ID_SEPARATOR", "Check for Updates... -> CHECKFORUPDATES",
+                         "Quillon Release Notes... -> RELEASENOTES", "ID_SEPARATOR"};
 
 // The default profile's system menu with the module's block `blocks` times.
 QStringList systemMenuWithBlocks(int blocks)
 {
-    QStringList entries{QStringLiteral("RSYS_HELP"), QStringLiteral("RSYS_SUPPORT")};
+    QStringList entries{"RSYS_HELP", "RSYS_SUPPORT"};
     for (int i = 0; i < blocks; ++i)
         entries += kBlock;
-    return entries << QStringLiteral("RSYS_ABOUT");
-}
-
-QString profilePath(const QString& name)
-{
-    return name == QLatin1String("default")
-               ? QStringLiteral(EC_SOURCE_DIR "/host/profiles/default.json")
-               : QStringLiteral(EC_SOURCE_DIR "/tests/fixtures/profiles/") + name +
-                     QStringLiteral(".json");
+    return entries << "RSYS_ABOUT";
 }
 
 bool commandKnown(const wchar_t* name)
@@ -51,26 +42,29 @@ class MainFrameTest : public ::testing::Test
 protected:
     void SetUp() override
     {
-        useProfile(QStringLiteral("default"));
+        useProfile(EC_SOURCE_DIR "/host/profiles/default.json");
         m_module = std::make_unique<LoadedModule>();
         m_events.clear();
     }
 
     void TearDown() override
     {
-        // As the host does: the window goes before the modules, and with it what the module
-        // lent for the window's sake (its Help-menu commands).
+        // As the host does: the window goes before the modules.
         if (m_mainFrameOpen)
             destroy();
         m_module.reset();
         GetFxSystemServices()->SetUI(nullptr);
     }
 
-    static void useProfile(const QString& name)
+    static void useProfile(const QString& path)
     {
         auto ui = std::make_unique<CFxUI>();
-        CFxUIJsonReader::readFile(profilePath(name), *ui);
+        CFxUIJsonReader::readFile(path, *ui);
         GetFxSystemServices()->SetUI(std::move(ui));
+    }
+    static void useFixture(const char* name)
+    {
+        useProfile(QStringLiteral(EC_SOURCE_DIR "/tests/fixtures/profiles/%1.json").arg(name));
     }
 
     void create()
@@ -111,80 +105,50 @@ TEST_F(MainFrameTest, CreatePlacesTheEntriesBehindOnlineSupportAndRegistersTheCo
                            {"statusText", "Quillon Release Notes: RELEASENOTES"},
                            {"macro", "RELEASENOTES"}}));
     // The reference group comes first and has a Help menu too: it is never the one used.
-    EXPECT_EQ(after.menuEntryIds(QStringLiteral("QUILLON_REFERENCE")),
-              before.menuEntryIds(QStringLiteral("QUILLON_REFERENCE")));
+    EXPECT_EQ(after.menuEntryIds("QUILLON_REFERENCE"), before.menuEntryIds("QUILLON_REFERENCE"));
     EXPECT_EQ(after.groupItems(kQuillon), before.groupItems(kQuillon) << kCheck << kNotes);
     EXPECT_EQ(after.systemMenu(), systemMenuWithBlocks(1));
     EXPECT_EQ(m_events.events().values("command-added", "name"),
               QStringList({"_RELEASENOTES", "_CHECKFORUPDATES"}));
 }
 
-TEST_F(MainFrameTest, DestroyTakesOutTheHelpEntriesAndCommandsOnly)
+TEST_F(MainFrameTest, DestroyTakesOutOnlyTheHelpEntriesAndCommandsAndCreateAddsThemOnce)
 {
     const QStringList hostHelp = help(kQuillon);
     create();
-    const UiModel created = model();
-    m_events.clear();
+    const QStringList created = help(kQuillon);
+    create();
+    EXPECT_EQ(help(kQuillon), created) << "a second creation adds no Help entry";
+    EXPECT_EQ(m_events.events().count("command-added"), 2);
+    const UiModel before = model();
     destroy();
     EXPECT_EQ(help(kQuillon), hostHelp);
     EXPECT_FALSE(commandKnown(L"CHECKFORUPDATES"));
     EXPECT_FALSE(commandKnown(L"RELEASENOTES"));
-    EXPECT_EQ(model().systemMenu(), created.systemMenu());
-    EXPECT_EQ(model().groupItems(kQuillon), created.groupItems(kQuillon));
-    EXPECT_EQ(m_events.events().describe({"command-removed", "module-unload-deferred"}, "name"),
-              QStringList({"command-removed:_CHECKFORUPDATES", "command-removed:_RELEASENOTES",
-                           "module-unload-deferred"}));
-    // The online connector is installed beside the program: it is asked to go, and goes once
-    // the reactor's reference to it goes with the module.
-    EXPECT_EQ(m_events.events().values("module-unload-deferred", "module"),
-              QStringList{"QNTForgeportConnector"});
-}
+    EXPECT_EQ(model().systemMenu(), before.systemMenu());
+    EXPECT_EQ(model().groupItems(kQuillon), before.groupItems(kQuillon));
 
-TEST_F(MainFrameTest, CreateAndDestroyTwiceLeavesNoHelpEntryBehind)
-{
-    const QStringList hostHelp = help(kQuillon);
     create();
-    const QStringList first = help(kQuillon);
-    destroy();
-    create();
-    EXPECT_EQ(help(kQuillon), first);
+    EXPECT_EQ(help(kQuillon), created);
     destroy();
     EXPECT_EQ(help(kQuillon), hostHelp);
-    EXPECT_FALSE(commandKnown(L"CHECKFORUPDATES"));
+    EXPECT_EQ(
+        m_events.events().values("command-removed", "name"),
+        QStringList({"_CHECKFORUPDATES", "_RELEASENOTES", "_CHECKFORUPDATES", "_RELEASENOTES"}));
     EXPECT_EQ(m_events.events().count("command-added"), 4);
-    EXPECT_EQ(m_events.events().count("command-removed"), 4);
-    EXPECT_EQ(model().systemMenu(), systemMenuWithBlocks(2));
-}
-
-TEST_F(MainFrameTest, SecondCreateAddsNoHelpEntryButAnotherSystemMenuBlock)
-{
-    create();
-    const QStringList first = help(kQuillon);
-    create();
-    EXPECT_EQ(help(kQuillon), first);
-    EXPECT_EQ(m_events.events().count("command-added"), 2);
-    EXPECT_EQ(model().systemMenu(), systemMenuWithBlocks(2));
+    EXPECT_EQ(model().systemMenu(), systemMenuWithBlocks(3)) << "a block for each creation";
 }
 
 TEST_F(MainFrameTest, WithoutOnlineSupportTheEntriesStayAtTheEndInCreationOrder)
 {
-    useProfile(QStringLiteral("no-online-support"));
+    useFixture("no-online-support");
     create();
     EXPECT_EQ(help(kMain), QStringList({"PMI_300", "PMI_340", kCheck, kNotes}));
 }
 
-TEST_F(MainFrameTest, AnEmptyHelpMenuGetsTheEntriesAndLosesThemAgain)
-{
-    useProfile(QStringLiteral("empty-help"));
-    create();
-    EXPECT_EQ(help(kMain), QStringList({kCheck, kNotes}));
-    destroy();
-    EXPECT_EQ(help(kMain), QStringList());
-}
-
 TEST_F(MainFrameTest, WithoutTheAboutEntryTheSystemMenuStaysAsItWas)
 {
-    useProfile(QStringLiteral("no-about"));
+    useFixture("no-about");
     const QStringList systemMenu = model().systemMenu();
     create();
     EXPECT_EQ(model().systemMenu(), systemMenu);
@@ -193,29 +157,26 @@ TEST_F(MainFrameTest, WithoutTheAboutEntryTheSystemMenuStaysAsItWas)
 
 TEST_F(MainFrameTest, OnlyAMenuCalledExactlyIdMnHelpOutsideTheReferenceGroupIsTheHelpMenu)
 {
-    useProfile(QStringLiteral("no-exact-help-menu"));
+    useFixture("no-exact-help-menu");
     const UiModel before = model();
     create();
     const UiModel after = model();
-    EXPECT_EQ(after.menuEntryIds(QStringLiteral("REFERENCE")),
-              before.menuEntryIds(QStringLiteral("REFERENCE")));
-    EXPECT_EQ(after.menuEntryIds(kMain, QStringLiteral("ID_MNHELP")),
-              before.menuEntryIds(kMain, QStringLiteral("ID_MNHELP")));
-    // The rest of the work is done all the same.
-    EXPECT_TRUE(commandKnown(L"CHECKFORUPDATES"));
+    EXPECT_EQ(after.menuEntryIds("REFERENCE"), before.menuEntryIds("REFERENCE"));
+    EXPECT_EQ(after.menuEntryIds(kMain, "ID_MNHELP"), before.menuEntryIds(kMain, "ID_MNHELP"));
+    EXPECT_TRUE(commandKnown(L"CHECKFORUPDATES")) << "the rest of the work is done all the same";
     EXPECT_EQ(after.systemMenu(), QStringList("RSYS_HELP") + kBlock << "RSYS_ABOUT");
 }
 
 TEST_F(MainFrameTest, LookalikeItemsAreMatchedWithoutCaseAndRemovedByTextInOnePass)
 {
-    useProfile(QStringLiteral("lookalike-help"));
+    useFixture("lookalike-help");
     create();
     // "id_CheckForUpdates" counts as the update-check entry: only the release notes are added.
     EXPECT_EQ(help(kMain), QStringList({"PMI_300", "id_CheckForUpdates", "PMI_901", "PMI_902",
                                         "PMI_330", kNotes}));
     destroy();
-    // Everything with the release notes' text goes, except the item that moved into the place
-    // of its removed neighbour.
+    // Of the adjacent items with the release notes' text, the one that moved into the place of
+    // its removed neighbour stays.
     EXPECT_EQ(help(kMain), QStringList({"PMI_300", "id_CheckForUpdates", "PMI_902", "PMI_330"}));
 }
 } // namespace

@@ -1,52 +1,45 @@
 #include "UiModel.h"
 
-#include <CFxUI.h>
 #include <CFxUIJsonWriter.h>
+
+namespace {
+QJsonObject withId(const QJsonValue& list, const QString& id)
+{
+    for (const QJsonValue item : list.toArray()) {
+        if (item["id"].toString() == id)
+            return item.toObject();
+    }
+    return {};
+}
+} // namespace
 
 UiModel UiModel::of(const CFxUI& ui)
 {
     return UiModel(CFxUIJsonWriter::write(ui));
 }
 
-QJsonObject UiModel::group(const QString& groupId) const
-{
-    for (const QJsonValue& group : m_model.value(QStringLiteral("groups")).toArray()) {
-        if (group[QStringLiteral("id")].toString() == groupId)
-            return group.toObject();
-    }
-    return {};
-}
-
 QJsonArray UiModel::menuEntries(const QString& groupId, const QString& menuId) const
 {
-    for (const QJsonValue& menu : group(groupId).value(QStringLiteral("menus")).toArray()) {
-        if (menu[QStringLiteral("id")].toString() == menuId)
-            return menu[QStringLiteral("entries")].toArray();
-    }
-    return {};
+    return withId(withId(m_model["groups"], groupId)["menus"], menuId)["entries"].toArray();
 }
 
 QStringList UiModel::menuEntryIds(const QString& groupId, const QString& menuId) const
 {
     QStringList ids;
-    for (const QJsonValue& entry : menuEntries(groupId, menuId))
-        ids << entry[QStringLiteral("id")].toString();
+    for (const QJsonValue entry : menuEntries(groupId, menuId))
+        ids << entry["id"].toString();
     return ids;
 }
 
 QJsonObject UiModel::helpEntry(const QString& groupId, const QString& entryId) const
 {
-    for (const QJsonValue& entry : menuEntries(groupId)) {
-        if (entry[QStringLiteral("id")].toString() == entryId)
-            return entry.toObject();
-    }
-    return {};
+    return withId(menuEntries(groupId, "ID_MnHelp"), entryId);
 }
 
 QStringList UiModel::groupItems(const QString& groupId) const
 {
     QStringList items;
-    for (const QJsonValue& item : group(groupId).value(QStringLiteral("items")).toArray())
+    for (const QJsonValue item : withId(m_model["groups"], groupId)["items"].toArray())
         items << item.toString();
     return items;
 }
@@ -54,11 +47,10 @@ QStringList UiModel::groupItems(const QString& groupId) const
 QStringList UiModel::systemMenu() const
 {
     QStringList entries;
-    for (const QJsonValue& entry : m_model.value(QStringLiteral("ribbonSystemMenu")).toArray()) {
-        const QString id = entry[QStringLiteral("id")].toString();
+    for (const QJsonValue entry : m_model["ribbonSystemMenu"].toArray()) {
+        const QString id = entry["id"].toString();
         entries << (id.isEmpty()
-                        ? entry[QStringLiteral("text")].toString() + QStringLiteral(" -> ") +
-                              entry[QStringLiteral("command")][QStringLiteral("macro")].toString()
+                        ? entry["text"].toString() + " -> " + entry["command"]["macro"].toString()
                         : id);
     }
     return entries;

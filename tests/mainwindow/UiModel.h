@@ -14,10 +14,8 @@ public:
     explicit UiModel(const QJsonObject& model) : m_model(model) {}
     static UiModel of(const CFxUI& ui);
 
-    QJsonObject group(const QString& groupId) const;
-    // The entries of the group's menu of that identifier (exactly), by default the Help menu.
-    QJsonArray menuEntries(const QString& groupId, const QString& menuId = helpMenu()) const;
-    QStringList menuEntryIds(const QString& groupId, const QString& menuId = helpMenu()) const;
+    // The identifiers of the entries of the group's menu of that identifier (exactly).
+    QStringList menuEntryIds(const QString& groupId, const QString& menuId = "ID_MnHelp") const;
     // The Help entry of that identifier as written ("id", "text", "statusText", "macro").
     QJsonObject helpEntry(const QString& groupId, const QString& entryId) const;
     // The identifiers of the menu items the group defines.
@@ -27,7 +25,7 @@ public:
     QStringList systemMenu() const;
 
 private:
-    static QString helpMenu() { return QStringLiteral("ID_MnHelp"); }
+    QJsonArray menuEntries(const QString& groupId, const QString& menuId) const;
 
     QJsonObject m_model;
 };

@@ -1,35 +1,74 @@
 #include "RibbonHost.h"
 
-#include <QFile>
-#include <QJsonDocument>
-
-#include <CFxSystemServices.h>
-#include <CFxUI.h>
 #include <CFxUIJsonReader.h>
 #include <OdSharedLibrary.h>
 
 #include <stdexcept>
 
-namespace {
-template <class Function>
-Function as(void* address)
+RibbonItem record(const QString& id, const QString& type)
 {
-    return reinterpret_cast<Function>(address);
+    RibbonItem item;
+    item.text = id.toLower();
+    item.id = id;
+    item.rowId = QStringLiteral("ID_RibbonAddInsRow");
+    item.tabText = item.panelText = QStringLiteral("Add-Ins");
+    item.tabId = kAddInsTab;
+    item.panelId = QStringLiteral("ID_RibbonAddInsPanel");
+    item.commandName = QStringLiteral("RUN_") + id;
+    item.description = QStringLiteral("Runs ") + id;
+    item.type = type;
+    return item;
 }
-} // namespace
 
-RibbonHost::RibbonHost(const QJsonObject& profile)
+QStringList texts(const CFxUIList<CFxUIRibbonButton>& buttons)
+{
+    QStringList result;
+    for (const CFxUIRibbonButton* button : buttons)
+        result << button->GetText().toQString();
+    return result;
+}
+
+CFxUIRibbonRow* row(const CFxUIGroup& group, const QString& tabId, const QString& panelId,
+                    const QString& rowId)
+{
+    const CFxUIRibbonTab* tab = exactly(group.GetRibbonTabs(), tabId);
+    const CFxUIRibbonPanel* panel = tab ? exactly(tab->GetPanels(), panelId) : nullptr;
+    return panel ? exactly(panel->GetRows(), rowId) : nullptr;
+}
+
+CFxUIRibbonSystemMenuItem* menuEntry(const CFxUIGroup& group, const QStringList& path)
+{
+    CFxUIRibbonSystemMenuItem* entry = nullptr;
+    for (const QString& id : path) {
+        entry = exactly(entry ? entry->GetSubItems() : group.GetApplicationMenu(), id);
+        if (!entry)
+            return nullptr;
+    }
+    return entry;
+}
+
+RibbonHost::RibbonHost()
 {
     auto ui = std::make_unique<CFxUI>();
-    CFxUIJsonReader::read(profile, *ui);
+    CFxUIJsonReader::readFile(kDefaultProfile, *ui);
     GetFxSystemServices()->SetUI(std::move(ui));
     m_module = std::make_unique<LoadedModule>();
-    m_load = as<decltype(m_load)>(entry("LoadRibbonMenuWrapper"));
-    m_unload = as<decltype(m_unload)>(entry("UnLoadRibbonMenuWrapper"));
-    m_setVisibility = as<decltype(m_setVisibility)>(entry("SetRibbonItemVisibility"));
-    m_loadExportTable = as<decltype(m_loadExportTable)>(entry("LoadExportTableRibbonMenuWrapper"));
-    m_unloadExportTable =
-        as<decltype(m_unloadExportTable)>(entry("UnLoadExportTableRibbonMenuWrapper"));
+    // Opening the loaded module again only finds it; closing gives the reference back.
+    OdString error;
+    const OdModuleHandle library =
+        OdSharedLibrary::open(OdString(m_module->path().toStdWString()), error);
+    const auto entry = [library](auto& function, const char* name) {
+        void* address = library ? OdSharedLibrary::resolve(library, name) : nullptr;
+        if (!address)
+            throw std::runtime_error(std::string("the module exports no ") + name);
+        function = reinterpret_cast<std::remove_reference_t<decltype(function)>>(address);
+    };
+    entry(load, "LoadRibbonMenuWrapper");
+    entry(unload, "UnLoadRibbonMenuWrapper");
+    entry(setVisibility, "SetRibbonItemVisibility");
+    entry(loadExportTable, "LoadExportTableRibbonMenuWrapper");
+    entry(unloadExportTable, "UnLoadExportTableRibbonMenuWrapper");
+    OdSharedLibrary::close(library);
 }
 
 RibbonHost::~RibbonHost()
@@ -38,64 +77,7 @@ RibbonHost::~RibbonHost()
     GetFxSystemServices()->SetUI(nullptr);
 }
 
-QJsonObject RibbonHost::defaultProfile()
+CFxUIRibbonRow* RibbonHost::addInsRow() const
 {
-    QFile file(QStringLiteral(EC_SOURCE_DIR "/host/profiles/default.json"));
-    if (!file.open(QIODevice::ReadOnly))
-        throw std::runtime_error("the default UI profile cannot be read");
-    return QJsonDocument::fromJson(file.readAll()).object();
-}
-
-void* RibbonHost::entry(const char* name) const
-{
-    // The module is loaded already: opening it again only finds it, and closing gives the
-    // reference back.
-    OdString error;
-    OdModuleHandle library =
-        OdSharedLibrary::open(OdString(m_module->path().toStdWString()), error);
-    void* address = library ? OdSharedLibrary::resolve(library, name) : nullptr;
-    if (library)
-        OdSharedLibrary::close(library);
-    if (!address)
-        throw std::runtime_error(std::string("the module exports no ") + name);
-    return address;
-}
-
-CFxUI& RibbonHost::ui() const
-{
-    return *GetFxSystemServices()->GetUI();
-}
-
-CFxUIGroup& RibbonHost::mainGroup() const
-{
-    for (CFxUIGroup* group : ui().GetMenuGroups()) {
-        if (group->IsMainGroup())
-            return *group;
-    }
-    throw std::runtime_error("the profile has no main group");
-}
-
-void RibbonHost::load(RibbonItem& item, int position) const
-{
-    m_load(&item, position);
-}
-
-void RibbonHost::unload(const QString& id) const
-{
-    m_unload(id);
-}
-
-void RibbonHost::setVisibility(const QString& id, bool visible) const
-{
-    m_setVisibility(id, visible);
-}
-
-void RibbonHost::loadExportTable() const
-{
-    m_loadExportTable();
-}
-
-void RibbonHost::unloadExportTable() const
-{
-    m_unloadExportTable();
+    return row(mainGroup(), kAddInsTab, "ID_RibbonAddInsPanel", "ID_RibbonAddInsRow");
 }

@@ -4,49 +4,75 @@
 #include "IsolatedHome.h"
 #include "LoadedModule.h"
 
-#include <QJsonObject>
+#include <QStringList>
 
+#include <CFxSystemServices.h>
+#include <CFxUI.h>
 #include <ExtCommands/RibbonItem.h>
 
 #include <memory>
 
-class CFxUI;
-class CFxUIGroup;
+inline const QString kAddInsTab = QStringLiteral("ID_RibbonAddInsTab");
+inline const QString kDefaultProfile = QStringLiteral(EC_SOURCE_DIR "/host/profiles/default.json");
 
-// The ExtCommands module loaded into this process through the platform's dynamic linker, as
-// the host loads it, with a host UI built from a profile; and the module's exported functions
-// as a sibling reaches them, by name from the loaded library. Everything goes with it: the
-// module is unloaded and the UI dropped.
+// A record for the Add-Ins row; text, command name and description made from `id`.
+RibbonItem record(const QString& id, const QString& type = QStringLiteral("command"));
+
+template <class T>
+T* exactly(const CFxUIList<T>& list, const QString& id)
+{
+    for (T* item : list) {
+        if (item->GetIdentifier().toQString() == id)
+            return item;
+    }
+    return nullptr;
+}
+
+template <class T>
+QStringList ids(const CFxUIList<T>& list)
+{
+    QStringList result;
+    for (const T* item : list)
+        result << item->GetIdentifier().toQString();
+    return result;
+}
+
+QStringList texts(const CFxUIList<CFxUIRibbonButton>& buttons);
+// The row, or the entry on the path through the application menu (exact identifiers), or null.
+CFxUIRibbonRow* row(const CFxUIGroup& group, const QString& tabId, const QString& panelId,
+                    const QString& rowId);
+CFxUIRibbonSystemMenuItem* menuEntry(const CFxUIGroup& group, const QStringList& path);
+
+// The module loaded afresh through the platform's dynamic linker (its tables start empty), a
+// host UI from the default profile, and the exported functions found by name, as a sibling
+// finds them. The module is unloaded and the UI dropped with it.
 class RibbonHost
 {
 public:
-    explicit RibbonHost(const QJsonObject& profile = defaultProfile());
+    RibbonHost();
     ~RibbonHost();
-    RibbonHost(const RibbonHost&) = delete;
-    RibbonHost& operator=(const RibbonHost&) = delete;
 
-    // The host's own profile, host/profiles/default.json.
-    static QJsonObject defaultProfile();
-
-    CFxUI& ui() const;
-    CFxUIGroup& mainGroup() const;
+    CFxUI& ui() const { return *GetFxSystemServices()->GetUI(); }
+    CFxUIGroup& mainGroup() const { return *exactly(ui().GetMenuGroups(), "QUILLON"); }
     const RecordedEvents& events() const { return m_events.events(); }
+    CFxUIRibbonRow* addInsRow() const;
+    QStringList addInsButtons() const
+    {
+        return addInsRow() ? ids(addInsRow()->GetButtons()) : QStringList();
+    }
+    CFxUIRibbonButton* addInsButton(const QString& id) const
+    {
+        return addInsRow() ? exactly(addInsRow()->GetButtons(), id) : nullptr;
+    }
 
-    void load(RibbonItem& item, int position = 0) const;
-    void unload(const QString& id) const;
-    void setVisibility(const QString& id, bool visible) const;
-    void loadExportTable() const;
-    void unloadExportTable() const;
+    void (*load)(RibbonItem*, int) = nullptr;
+    void (*unload)(const QString&) = nullptr;
+    void (*setVisibility)(const QString&, bool) = nullptr;
+    void (*loadExportTable)() = nullptr;
+    void (*unloadExportTable)() = nullptr;
 
 private:
-    void* entry(const char* name) const;
-
     IsolatedHome m_home;
     EventRecorder m_events;
     std::unique_ptr<LoadedModule> m_module;
-    void (*m_load)(RibbonItem*, int);
-    void (*m_unload)(const QString&);
-    void (*m_setVisibility)(const QString&, bool);
-    void (*m_loadExportTable)();
-    void (*m_unloadExportTable)();
 };

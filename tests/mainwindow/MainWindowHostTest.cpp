@@ -1,24 +1,29 @@
-// The host's user-interface language through quillon-host: the default locale, the translators
-// installed, the texts of the Help entries and the product pages that the entries open.
+// The main window's Help entries and languages through quillon-host: the default locale, the
+// translators installed, the texts of the Help entries and the product pages they open.
 #include "HostProcess.h"
-#include "ProgramFolderCopy.h"
 #include "UiModel.h"
 
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
 #include <gtest/gtest.h>
+
+#include <unistd.h>
 
 #include <ostream>
 
 namespace {
-const QStringList kCatalogues{"GCode", "recentdocumentbrowser", "QuillonOmniplaneConnector",
-                              "QNTForgeportConnector"};
 const char* const kEnglish = "Check for Updates...";
 const char* const kGerman = "Nach Updates suchen...";
+const char* const kTraditional = "檢查更新...";
+const char* const kSimplified = "检查更新...";
 
 struct Language
 {
     int id;
-    // The operating system's locale. For a setting other than "System" it is Taiwanese, which
-    // would show as traditional Chinese wherever the system were wrongly consulted.
+    // The operating system's locale. For a setting other than "System" it is mostly Taiwanese,
+    // which would show as traditional Chinese wherever the system were wrongly consulted.
     const char* locale;
     // Between the web site's host and "/products-services/...".
     const char* segment;
@@ -37,10 +42,8 @@ void PrintTo(const Language& language, std::ostream* out)
 const Language kLanguages[] = {
     {0, "de_DE", "/german", "de_DE", "german", kGerman},
     {0, "zh_TW", "/chinese/QObject::traditional", "zh_CN", "chinese/QObject::traditional",
-     "檢查更新..."},
-    {0, "zh_HK", "/chinese/QObject::traditional", "zh_CN", "chinese/QObject::traditional",
-     "檢查更新..."},
-    {0, "zh_CN", "/chinese/simplified", "zh_CN", "chinese/simplified", "检查更新..."},
+     kTraditional},
+    {0, "zh_CN", "/chinese/simplified", "zh_CN", "chinese/simplified", kSimplified},
     {0, "sv_SE", "", "en_US", "", kEnglish},
     {0, "C", "/", "C", "", kEnglish},
     {1, "zh_TW", "/german", "de_DE", "german", kGerman},
@@ -51,8 +54,8 @@ const Language kLanguages[] = {
     {6, "zh_TW", "/japanese", "ja_JP", "", kEnglish},
     {7, "zh_TW", "/french", "fr_FR", "", kEnglish},
     {8, "de_DE", "/chinese/QObject::traditional", "zh_CN", "chinese/QObject::traditional",
-     "檢查更新..."},
-    {9, "zh_TW", "/chinese/simplified", "zh_CN", "chinese/simplified", "检查更新..."},
+     kTraditional},
+    {9, "zh_TW", "/chinese/simplified", "zh_CN", "chinese/simplified", kSimplified},
     {10, "zh_TW", "/italian", "it_IT", "", kEnglish},
     {11, "zh_TW", "/spanish", "es_ES", "", kEnglish},
     {12, "zh_TW", "/greek", "el_GR", "", kEnglish},
@@ -69,33 +72,22 @@ const Language kLanguages[] = {
 
 QString productPage(const QString& segment, const QString& suffix)
 {
-    return QStringLiteral("http://" EXTCOMMANDS_CORPORATE_HOST) + segment +
-           QStringLiteral("/products-services/quillon-cad-software/") + suffix;
-}
-
-QStringList catalogueFiles(const QString& folder)
-{
-    QStringList files;
-    for (const QString& catalogue : kCatalogues)
-        files << folder + QLatin1Char('/') + catalogue + QStringLiteral(".qm");
-    return files;
+    return "http://" EXTCOMMANDS_CORPORATE_HOST + segment +
+           "/products-services/quillon-cad-software/" + suffix;
 }
 
 QStringList arguments(int language, const QString& locale)
 {
-    return {QStringLiteral("--language"), QString::number(language), QStringLiteral("--locale"),
-            locale};
+    return {"--language", QString::number(language), "--locale", locale};
 }
 
 QString checkForUpdatesText(const HostResult& result)
 {
-    const auto ui = result.events.named(QStringLiteral("ui"));
-    return ui.isEmpty()
-               ? QString()
-               : UiModel(ui.first().fields.value(QStringLiteral("model")).toObject())
-                     .helpEntry(QStringLiteral("QUILLON"), QStringLiteral("ID_CHECKFORUPDATES"))
-                     .value(QStringLiteral("text"))
-                     .toString();
+    const auto ui = result.events.named("ui");
+    return ui.isEmpty() ? QString()
+                        : UiModel(ui.first().fields["model"].toObject())
+                              .helpEntry("QUILLON", "ID_CHECKFORUPDATES")["text"]
+                              .toString();
 }
 
 class LanguageTest : public ::testing::TestWithParam<Language>
@@ -106,7 +98,7 @@ TEST_P(LanguageTest, SetsTheLocaleInstallsTheTranslatorsAndOpensThePagesOfTheLan
     const Language& language = GetParam();
     HostProcess host;
     const HostResult result =
-        host.runScript(QStringLiteral("mainframe create; ui; CHECKFORUPDATES; RELEASENOTES"),
+        host.runScript("mainframe create; ui; CHECKFORUPDATES; RELEASENOTES",
                        arguments(language.id, QString::fromUtf8(language.locale)));
     ASSERT_EQ(result.exitCode, 0) << result.standardError.toStdString();
     const QString segment = QString::fromUtf8(language.segment);
@@ -115,50 +107,56 @@ TEST_P(LanguageTest, SetsTheLocaleInstallsTheTranslatorsAndOpensThePagesOfTheLan
                   {productPage(segment, "free-download"), productPage(segment, "latest-version")}));
     EXPECT_EQ(result.events.values("default-locale", "name"),
               QStringList{QString::fromUtf8(language.defaultLocale)});
-    const QString folder = QString::fromUtf8(language.folder);
-    EXPECT_EQ(result.events.values("translator-installed", "file"),
-              folder.isEmpty()
-                  ? QStringList({"", "", "", ""})
-                  : catalogueFiles(HostProcess::stageFolder() + "/messages/" + folder));
+    QStringList catalogues{"", "", "", ""};
+    const QString folder = HostProcess::stageFolder() + "/messages/" + language.folder + '/';
+    if (*language.folder)
+        catalogues = QStringList{folder + "GCode.qm", folder + "recentdocumentbrowser.qm",
+                                 folder + "QuillonOmniplaneConnector.qm",
+                                 folder + "QNTForgeportConnector.qm"};
+    EXPECT_EQ(result.events.values("translator-installed", "file"), catalogues);
     EXPECT_EQ(checkForUpdatesText(result), QString::fromUtf8(language.checkForUpdates));
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryLanguage, LanguageTest, ::testing::ValuesIn(kLanguages));
 
+// The host looks for translations beside its program: the test runs a program folder of its
+// own (the host hard-linked or copied, the libraries linked) with the messages it chooses.
 class TranslationFolderTest : public ::testing::Test
 {
 protected:
+    void SetUp() override
+    {
+        const QString program = m_folder.filePath("quillon-host");
+        if (::link(QFile::encodeName(HostProcess::program()), QFile::encodeName(program)) != 0)
+            ASSERT_TRUE(QFile::copy(HostProcess::program(), program));
+        for (const QFileInfo& library :
+             QDir(HostProcess::stageFolder()).entryInfoList({"*.so"}, QDir::Files))
+            ASSERT_TRUE(QFile::link(library.filePath(), m_folder.filePath(library.fileName())));
+        m_host.setProgram(program);
+    }
+
+    // German, with the module and its companions from the stage.
     HostResult runGerman()
     {
-        m_host.setProgram(m_folder.program());
-        // The module and its companions still come from the stage.
-        return m_host.runScript(QStringLiteral("mainframe create; ui"),
-                                arguments(1, QStringLiteral("en_US")) +
+        return m_host.runScript("mainframe create; ui",
+                                arguments(1, "en_US") +
                                     QStringList{"--module-path", HostProcess::stageFolder(),
                                                 "--companion-path", HostProcess::stageFolder()});
     }
 
-    ProgramFolderCopy m_folder;
+    QTemporaryDir m_folder;
     HostProcess m_host;
 };
 
 TEST_F(TranslationFolderTest, WithoutTheLanguageFolderTheBaseFolderIsUsed)
 {
-    m_folder.copyCatalogue(QStringLiteral("german/GCode.qm"), QStringLiteral("GCode.qm"));
+    ASSERT_TRUE(QDir().mkpath(m_folder.filePath("messages")));
+    ASSERT_TRUE(QFile::copy(HostProcess::stageFolder() + "/messages/german/GCode.qm",
+                            m_folder.filePath("messages/GCode.qm")));
     const HostResult result = runGerman();
     EXPECT_EQ(result.events.values("translator-installed", "file"),
-              QStringList({m_folder.messages() + "/GCode.qm", "", "", ""}));
+              QStringList({m_folder.filePath("messages/GCode.qm"), "", "", ""}));
     EXPECT_EQ(checkForUpdatesText(result), QString::fromUtf8(kGerman));
-}
-
-TEST_F(TranslationFolderTest, ALanguageFolderWithSomeCataloguesGivesEmptyTranslatorsForTheRest)
-{
-    m_folder.copyCatalogue(QStringLiteral("german/QNTForgeportConnector.qm"),
-                           QStringLiteral("german/QNTForgeportConnector.qm"));
-    const HostResult result = runGerman();
-    EXPECT_EQ(result.events.values("translator-installed", "file"),
-              QStringList({"", "", "", m_folder.messages() + "/german/QNTForgeportConnector.qm"}));
-    EXPECT_EQ(checkForUpdatesText(result), QString::fromUtf8(kEnglish));
 }
 
 TEST_F(TranslationFolderTest, WithoutAnyMessagesFolderOnlyTheDefaultLocaleChanges)
@@ -170,15 +168,25 @@ TEST_F(TranslationFolderTest, WithoutAnyMessagesFolderOnlyTheDefaultLocaleChange
     EXPECT_EQ(checkForUpdatesText(result), QString::fromUtf8(kEnglish));
 }
 
-TEST(TranslatorTest, EveryMainWindowInstallsAnotherSetOfTranslators)
+TEST(HelpCommandsTest, CommandsThatASiblingRegisteredFirstAreTheOnesTheEntriesRun)
 {
     HostProcess host;
-    const HostResult result =
-        host.runScript(QStringLiteral("mainframe create; mainframe destroy; mainframe create"),
-                       arguments(1, QStringLiteral("de_DE")));
-    const QStringList german = catalogueFiles(HostProcess::stageFolder() + "/messages/german");
-    EXPECT_EQ(result.events.values("translator-installed", "file"), german + german);
-    // The same default locale again: reported with each set of translators.
-    EXPECT_EQ(result.events.values("default-locale", "name"), QStringList({"de_DE", "de_DE"}));
+    const HostResult result = host.runScript(
+        "mainframe create; ui; CHECKFORUPDATES; RELEASENOTES; mainframe destroy; commands",
+        {"--module", "ForeignHelpCommands", "--module", "ExtCommands", "--module-path",
+         EC_FIXTURE_DIR, "--module-path", HostProcess::stageFolder()});
+    ASSERT_EQ(result.exitCode, 0) << result.standardError.toStdString();
+    const UiModel ui(result.events.named("ui").value(0).fields["model"].toObject());
+    EXPECT_EQ(ui.helpEntry("QUILLON", "ID_RELEASENOTES")["macro"].toString(), "RELEASENOTES");
+    EXPECT_EQ(
+        result.events.values("command-added", "name"),
+        QStringList({"_CHECKFORUPDATES", "_RELEASENOTES", "_Home", "_Community", "_VIEWCAST"}))
+        << "the module registers none of its own";
+    EXPECT_EQ(result.events.values("foreign-command", "name"),
+              QStringList({"CHECKFORUPDATES", "RELEASENOTES"}));
+    EXPECT_EQ(result.events.count("url-opened"), 0);
+    EXPECT_EQ(result.events.named("commands").value(0).fields["names"],
+              QJsonArray({"CHECKFORUPDATES", "RELEASENOTES", "Home", "Community", "VIEWCAST"}))
+        << "taking the entries out leaves the sibling's commands";
 }
 } // namespace
