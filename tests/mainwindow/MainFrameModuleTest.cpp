@@ -144,6 +144,13 @@ TEST_F(MainFrameTest, WithoutOnlineSupportTheEntriesStayAtTheEndInCreationOrder)
     useFixture("no-online-support");
     create();
     EXPECT_EQ(help(kMain), QStringList({"PMI_300", "PMI_340", kCheck, kNotes}));
+    destroy();
+
+    // A Help menu without any entry of its own gets just the module's two.
+    useFixture("empty-help");
+    create();
+    EXPECT_EQ(help(kMain), QStringList({kCheck, kNotes}));
+    EXPECT_TRUE(commandKnown(L"CHECKFORUPDATES"));
 }
 
 TEST_F(MainFrameTest, WithoutTheAboutEntryTheSystemMenuStaysAsItWas)
