@@ -26,14 +26,10 @@ TEST_F(HostBadInput, AStatementThatCannotBeCarriedOutEndsTheScriptButNotTheSessi
         {"Home\nactivate x",
          "line 2 (activate x): 'x' is not a document number (1, 2, ...)",
          {"command-ended"}},
-        {"activate", "line 1 (activate): usage: activate N", {}},
         {"open missing.dxf",
          "line 1 (open missing.dxf): cannot open %HOME%/missing.dxf: no such file",
          {}},
         {"unload ProbeModule", "line 1 (unload ProbeModule): module ProbeModule is not loaded", {}},
-        {"Home; mainframe destroy",
-         "line 1 (mainframe destroy): there is no main window to destroy",
-         {"command-ended"}},
     };
     for (const BadScript& bad : cases) {
         SCOPED_TRACE(bad.script);

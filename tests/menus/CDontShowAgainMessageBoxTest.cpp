@@ -1,176 +1,226 @@
-// The don't-show-again message box as callers and users meet it: when it shows, what its
-// buttons store in the settings file that all message boxes share, and when it stays silent.
+// The don't-show-again message box as callers, users and derived boxes meet it: when it shows,
+// what its buttons store in the settings file that all message boxes share, and its form.
 #include "IsolatedHome.h"
-#include "MessageBoxControls.h"
-#include "ModalDialogDriver.h"
 
+#include <QApplication>
 #include <QCheckBox>
-#include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QPushButton>
 #include <QSettings>
-#include <QTest>
+#include <QTimer>
+#include <QTranslator>
 
 #include <gtest/gtest.h>
 
 #include <ExtCommands/CDontShowAgainMessageBox.h>
 
 #include <functional>
-#include <string>
-#include <vector>
-
-using MessageBoxControls::press;
-using MessageBoxControls::tick;
+#include <utility>
 
 namespace {
-constexpr auto okCancel = QDialogButtonBox::Ok | QDialogButtonBox::Cancel;
+using Action = std::function<void(QWidget* dialog)>;
+// What execUnlessSuppressed() returned, and how many boxes showed.
+using Showing = std::pair<int, int>;
 
-struct Showing
+// Plays the user while it lives: hands each box that comes up to `act`, which must close it.
+class User
 {
-    int result;
-    int shown;
+public:
+    explicit User(Action act)
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, [this, act] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            if (dialog == nullptr || !dialog->isVisible())
+                return;
+            ++shown;
+            act(dialog);
+            if (dialog->isVisible()) {
+                ADD_FAILURE() << "the box is still open after the user's action";
+                dialog->close();
+            }
+        });
+        m_timer.start(10);
+    }
+
+    int shown = 0;
+
+private:
+    QTimer m_timer;
 };
+
+void press(QWidget* dialog, QDialogButtonBox::StandardButton which)
+{
+    QAbstractButton* button = dialog->findChild<QDialogButtonBox*>("buttonBox")->button(which);
+    ASSERT_NE(button, nullptr) << "no such button";
+    button->click();
+}
+
+QCheckBox* checkBox(QWidget* dialog)
+{
+    return dialog->findChild<QCheckBox*>("checkBox");
+}
+
+void accept(QWidget* dialog)
+{
+    press(dialog, QDialogButtonBox::Ok);
+}
+
+void cancel(QWidget* dialog)
+{
+    press(dialog, QDialogButtonBox::Cancel);
+}
+
+void tickAndAccept(QWidget* dialog)
+{
+    checkBox(dialog)->click();
+    accept(dialog);
+}
 
 class DontShowAgainMessageBox : public ::testing::Test
 {
 protected:
-    QString folder() const
+    QString folder() const { return m_home.folders().dataHome() + "/Corvane/Quillon"; }
+    QString settingsFile() const { return folder() + "/dontshowagainmessagebox.ini"; }
+
+    QString stored(const QString& id) const
     {
-        return m_home.folders().dataHome() + QStringLiteral("/Corvane/Quillon");
-    }
-    QString settingsFile() const
-    {
-        return folder() + QStringLiteral("/dontshowagainmessagebox.ini");
+        return QSettings(settingsFile(), QSettings::IniFormat)
+            .value(id + "/checked", "(absent)")
+            .toString();
     }
 
-    // The stored text of `id`'s check state, or "(absent)".
-    std::string stored(const QString& id) const
+    static Showing show(const QString& id, const Action& act)
     {
-        const QSettings settings(settingsFile(), QSettings::IniFormat);
-        const QString key = id + QStringLiteral("/checked");
-        return settings.contains(key) ? settings.value(key).toString().toStdString() : "(absent)";
+        User user(act);
+        CDontShowAgainMessageBox box(id, "Message",
+                                     QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+        return {box.execUnlessSuppressed(), user.shown};
     }
-
-    void writeSettings(const QByteArray& text) const
-    {
-        QDir().mkpath(folder());
-        QFile file(settingsFile());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
-    }
-
-    // Asks for the box of `id`, with `user` acting on it if it shows, and closes it again.
-    static Showing showBox(const QString& id, ModalDialogDriver::Action user)
-    {
-        ModalDialogDriver driver(std::move(user));
-        int result = -1;
-        {
-            CDontShowAgainMessageBox box(id, QStringLiteral("Message"), okCancel);
-            result = box.execUnlessSuppressed();
-        }
-        return {result, driver.dialogsShown()};
-    }
-
-    static void tickAndAccept(QWidget* dialog)
-    {
-        tick(dialog);
-        press(dialog, QDialogButtonBox::Ok);
-    }
-
-    static void accept(QWidget* dialog) { press(dialog, QDialogButtonBox::Ok); }
-    static void cancel(QWidget* dialog) { press(dialog, QDialogButtonBox::Cancel); }
 
     IsolatedHome m_home;
 };
 
-TEST_F(DontShowAgainMessageBox, TickedAndAcceptedSilencesTheMessageForGood)
+TEST_F(DontShowAgainMessageBox, TickedAndAcceptedSilencesThatMessageAloneForGood)
 {
-    ModalDialogDriver user(tickAndAccept);
     {
-        CDontShowAgainMessageBox box(QStringLiteral("first"), QStringLiteral("Message"), okCancel);
-        EXPECT_TRUE(QFileInfo(folder() + QStringLiteral("/Quillon")).isDir());
+        User user(tickAndAccept);
+        CDontShowAgainMessageBox box("first", "Message", QDialogButtonBox::Ok);
+        // The folder is made with one more of its own name inside, as users' profiles have it.
+        EXPECT_TRUE(QFileInfo(folder() + "/Quillon").isDir());
         EXPECT_EQ(box.execUnlessSuppressed(), QDialog::Accepted);
         EXPECT_EQ(box.execUnlessSuppressed(), 0);
+        EXPECT_EQ(user.shown, 1);
     }
-    EXPECT_EQ(user.dialogsShown(), 1);
-    EXPECT_EQ(stored(QStringLiteral("first")), "2");
-    EXPECT_FALSE(
-        QFileInfo::exists(folder() + QStringLiteral("/Quillon/dontshowagainmessagebox.ini")));
+    EXPECT_EQ(stored("first"), "2");
+    EXPECT_EQ(show("first", cancel), Showing(0, 0));
 
-    const Showing again = showBox(QStringLiteral("first"), cancel);
-    EXPECT_EQ(again.result, 0);
-    EXPECT_EQ(again.shown, 0);
+    EXPECT_EQ(show("second", accept), Showing(QDialog::Accepted, 1));
+    EXPECT_EQ(stored("second"), "0");
+    EXPECT_EQ(stored("first"), "2");
+    EXPECT_EQ(show("second", cancel), Showing(QDialog::Rejected, 1));
 }
 
-TEST_F(DontShowAgainMessageBox, TickedButNotAcceptedStoresNothing)
+TEST_F(DontShowAgainMessageBox, TickedButCancelledOrClosedStoresNothing)
 {
-    const std::vector<std::pair<const char*, ModalDialogDriver::Action>> ways = {
-        {"Cancel button", cancel},
-        {"Escape key", [](QWidget* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); }},
-        {"window closed", [](QWidget* dialog) { dialog->close(); }},
-    };
+    const std::pair<const char*, Action> ways[] = {
+        {"Cancel", cancel}, {"window closed", [](QWidget* dialog) { dialog->close(); }}};
     for (const auto& way : ways) {
         SCOPED_TRACE(way.first);
-        const Showing showing = showBox(QStringLiteral("first"), [&way](QWidget* dialog) {
-            tick(dialog);
-            way.second(dialog);
-        });
-        EXPECT_EQ(showing.result, QDialog::Rejected);
-        EXPECT_EQ(showing.shown, 1);
-        EXPECT_EQ(stored(QStringLiteral("first")), "(absent)");
+        EXPECT_EQ(show("first",
+                       [&way](QWidget* dialog) {
+                           checkBox(dialog)->click();
+                           way.second(dialog);
+                       }),
+                  Showing(QDialog::Rejected, 1));
+        EXPECT_EQ(stored("first"), "(absent)");
     }
 }
 
-TEST_F(DontShowAgainMessageBox, TwoIdentifiersAreIndependentKeysInOneFile)
+TEST_F(DontShowAgainMessageBox, OnlyAStoredCheckedStateSuppressesAndAWordReadsAsUnchecked)
 {
-    EXPECT_EQ(showBox(QStringLiteral("first"), tickAndAccept).shown, 1);
-    const Showing second = showBox(QStringLiteral("second"), accept);
-    EXPECT_EQ(second.result, QDialog::Accepted);
-    EXPECT_EQ(second.shown, 1);
-
-    EXPECT_EQ(stored(QStringLiteral("first")), "2");
-    EXPECT_EQ(stored(QStringLiteral("second")), "0");
-    EXPECT_EQ(showBox(QStringLiteral("first"), cancel).shown, 0);
-    EXPECT_EQ(showBox(QStringLiteral("second"), cancel).shown, 1);
-}
-
-TEST_F(DontShowAgainMessageBox, OnlyACheckedStateSuppresses)
-{
-    writeSettings("[partial]\nchecked=1\n[word]\nchecked=yes\n");
-    const std::vector<std::pair<const char*, Qt::CheckState>> cases = {
-        {"partial", Qt::PartiallyChecked},
-        {"word", Qt::Unchecked},
-    };
-    for (const auto& stateCase : cases) {
-        SCOPED_TRACE(stateCase.first);
-        Qt::CheckState shownState = Qt::Checked;
-        const Showing showing =
-            showBox(QString::fromLatin1(stateCase.first), [&shownState](QWidget* dialog) {
-                shownState = MessageBoxControls::checkBox(dialog)->checkState();
-                cancel(dialog);
-            });
-        EXPECT_EQ(showing.shown, 1);
-        EXPECT_EQ(shownState, stateCase.second);
+    {
+        QSettings settings(settingsFile(), QSettings::IniFormat);
+        settings.setValue("partial/checked", 1);
+        settings.setValue("word/checked", "yes");
+    }
+    for (const auto& [id, expected] :
+         {std::pair("partial", Qt::PartiallyChecked), std::pair("word", Qt::Unchecked)}) {
+        SCOPED_TRACE(id);
+        Qt::CheckState state = Qt::Checked;
+        EXPECT_EQ(show(id,
+                       [&state](QWidget* dialog) {
+                           state = checkBox(dialog)->checkState();
+                           cancel(dialog);
+                       }),
+                  Showing(QDialog::Rejected, 1));
+        EXPECT_EQ(state, expected);
     }
 }
 
 // Permissions do not stop a test that runs as root; a file where the folder belongs does.
-TEST_F(DontShowAgainMessageBox, UnwritableDataFolderShowsTheBoxAndStoresNothing)
+TEST_F(DontShowAgainMessageBox, AnUnwritableDataFolderLeavesABoxThatWorksAndStoresNothing)
 {
-    const QString blocker = m_home.folders().dataHome() + QStringLiteral("/Corvane");
-    {
-        QFile file(blocker);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    }
+    QFile blocker(m_home.folders().dataHome() + "/Corvane");
+    ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
+    blocker.close();
 
-    const Showing showing = showBox(QStringLiteral("first"), tickAndAccept);
-    EXPECT_EQ(showing.result, QDialog::Accepted);
-    EXPECT_EQ(showing.shown, 1);
-
-    EXPECT_TRUE(QFileInfo(blocker).isFile());
-    QDirIterator files(m_home.path(), {QStringLiteral("dontshowagainmessagebox.ini")}, QDir::Files,
+    EXPECT_EQ(show("first", tickAndAccept), Showing(QDialog::Accepted, 1));
+    EXPECT_EQ(show("first", cancel), Showing(QDialog::Rejected, 1));
+    QDirIterator files(m_home.path(), {"dontshowagainmessagebox.ini"}, QDir::Files,
                        QDirIterator::Subdirectories);
-    EXPECT_FALSE(files.hasNext()) << files.next().toStdString();
+    EXPECT_FALSE(files.hasNext()) << qPrintable(files.next());
+}
+
+// A derived box as a sibling module writes one.
+class RecordingBox : public CDontShowAgainMessageBox
+{
+public:
+    using CDontShowAgainMessageBox::CDontShowAgainMessageBox;
+
+    int helpRequests = 0;
+    QList<QDialogButtonBox::StandardButton> clicked;
+
+protected:
+    void buttonHelp() override { ++helpRequests; }
+    void buttonClicked(QAbstractButton* button) override
+    {
+        clicked << findChild<QDialogButtonBox*>("buttonBox")->standardButton(button);
+    }
+};
+
+// "Translates" every text to its translation context and source text.
+class TaggingTranslator : public QTranslator
+{
+public:
+    QString translate(const char* context, const char* text, const char*, int) const override
+    {
+        return QString("%1: %2").arg(context, text);
+    }
+    bool isEmpty() const override { return false; }
+};
+
+TEST_F(DontShowAgainMessageBox, ADerivedBoxGetsTheTranslatedTitleTheWindowKindAndItsOwnSlots)
+{
+    TaggingTranslator translator;
+    QApplication::installTranslator(&translator);
+    QString title;
+    Qt::WindowFlags flags;
+    User user([&](QWidget* dialog) {
+        title = dialog->windowTitle();
+        flags = dialog->windowFlags();
+        press(dialog, QDialogButtonBox::Help);
+        press(dialog, QDialogButtonBox::Ok);
+    });
+    RecordingBox box("derived", "Message", QDialogButtonBox::Ok | QDialogButtonBox::Help);
+    EXPECT_EQ(box.execUnlessSuppressed(), QDialog::Accepted);
+    QApplication::removeTranslator(&translator);
+
+    EXPECT_EQ(title, "DontShowAgainMessageBoxDialog: Quillon");
+    EXPECT_EQ(flags, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                         Qt::MSWindowsFixedSizeDialogHint | Qt::WindowCloseButtonHint);
+    EXPECT_EQ(box.helpRequests, 1);
+    EXPECT_EQ(box.clicked, QList({QDialogButtonBox::Help, QDialogButtonBox::Ok}));
 }
 } // namespace

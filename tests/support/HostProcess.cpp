@@ -13,27 +13,7 @@ HostProcess::HostProcess()
     m_environment.remove(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"));
 }
 
-void HostProcess::setEnvironment(const QString& name, const QString& value)
-{
-    m_environment.insert(name, value);
-}
-
-void HostProcess::setProgram(const QString& program)
-{
-    m_program = program;
-}
-
-QString HostProcess::stageFolder()
-{
-    return QStringLiteral(EC_STAGE_DIR);
-}
-
-QString HostProcess::program()
-{
-    return stageFolder() + QStringLiteral("/quillon-host");
-}
-
-HostResult HostProcess::execute(const QStringList& arguments, int timeoutMs)
+HostResult HostProcess::runReadable(const QStringList& arguments, int timeoutMs)
 {
     QProcess process;
     process.setProcessEnvironment(m_environment);
@@ -56,7 +36,7 @@ HostResult HostProcess::execute(const QStringList& arguments, int timeoutMs)
 
 HostResult HostProcess::run(const QStringList& arguments, int timeoutMs)
 {
-    HostResult result = execute(QStringList{QStringLiteral("--json")} + arguments, timeoutMs);
+    HostResult result = runReadable(QStringList{QStringLiteral("--json")} + arguments, timeoutMs);
     for (const QString& line : result.output) {
         QJsonObject fields = QJsonDocument::fromJson(line.toUtf8()).object();
         const QString name = fields.take(QStringLiteral("event")).toString();
@@ -64,11 +44,6 @@ HostResult HostProcess::run(const QStringList& arguments, int timeoutMs)
             {name.isEmpty() ? QStringLiteral("<not json: %1>").arg(line) : name, fields});
     }
     return result;
-}
-
-HostResult HostProcess::runReadable(const QStringList& arguments, int timeoutMs)
-{
-    return execute(arguments, timeoutMs);
 }
 
 HostResult HostProcess::runScript(const QString& script, const QStringList& arguments)

@@ -26,9 +26,12 @@ public:
 
     const HomeFolders& folders() const { return m_folders; }
     QString home() const { return m_folders.root(); }
-    void setEnvironment(const QString& name, const QString& value);
+    void setEnvironment(const QString& name, const QString& value)
+    {
+        m_environment.insert(name, value);
+    }
     // Runs this copy of quillon-host instead of the stage's (a program folder of the test's own).
-    void setProgram(const QString& program);
+    void setProgram(const QString& program) { m_program = program; }
     // Runs quillon-host through `launcher` (a program and its arguments, the host's command
     // line following them), for example a private session bus's dbus-run-session.
     void setLauncher(const QStringList& launcher) { m_launcher = launcher; }
@@ -38,12 +41,10 @@ public:
     // Runs without --json: the output is the host's readable lines.
     HostResult runReadable(const QStringList& arguments, int timeoutMs = 60000);
 
-    static QString stageFolder();
-    static QString program();
+    static QString stageFolder() { return QStringLiteral(EC_STAGE_DIR); }
+    static QString program() { return stageFolder() + QStringLiteral("/quillon-host"); }
 
 private:
-    HostResult execute(const QStringList& arguments, int timeoutMs);
-
     QTemporaryDir m_temporary;
     HomeFolders m_folders;
     QProcessEnvironment m_environment;

@@ -13,8 +13,6 @@ class IsolatedHome
 public:
     IsolatedHome();
     ~IsolatedHome();
-    IsolatedHome(const IsolatedHome&) = delete;
-    IsolatedHome& operator=(const IsolatedHome&) = delete;
 
     const HomeFolders& folders() const { return m_folders; }
     QString path() const { return m_folders.root(); }

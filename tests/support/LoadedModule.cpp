@@ -1,15 +1,7 @@
 #include "LoadedModule.h"
 
 #include <CFxSystemServices.h>
-#include <OdError.h>
 #include <OdRxDynamicLinker.h>
-
-#include <stdexcept>
-
-QString LoadedModule::stageFolder()
-{
-    return QStringLiteral(EC_STAGE_DIR);
-}
 
 void LoadedModule::useFolder(const QString& folder)
 {
@@ -22,24 +14,15 @@ LoadedModule::LoadedModule(const QString& name) : m_name(name)
 {
     if (odrxDynamicLinker()->searchPath().empty())
         useFolder();
-    try {
-        OdRxModulePtr module =
-            odrxDynamicLinker()->loadModule(OdString(name.toStdWString()), false);
-        m_module = module.get();
-        m_path = QString::fromStdWString(m_module->moduleName().wide());
-    } catch (const OdError& error) {
-        throw std::runtime_error(error.what());
-    }
+    // A module that cannot be loaded throws OdError, a std::exception that names it.
+    OdRxModulePtr module = odrxDynamicLinker()->loadModule(OdString(name.toStdWString()), false);
+    m_module = module.get();
+    m_path = QString::fromStdWString(m_module->moduleName().wide());
 }
 
 LoadedModule::~LoadedModule()
 {
     unload();
-}
-
-QString LoadedModule::path() const
-{
-    return m_path;
 }
 
 bool LoadedModule::unload()

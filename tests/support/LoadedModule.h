@@ -15,13 +15,13 @@ public:
     LoadedModule& operator=(const LoadedModule&) = delete;
 
     OdRxModule* module() const { return m_module; }
-    QString path() const;
+    QString path() const { return m_path; }
     // Unloads now (also done on destruction); returns whether the linker unloaded it.
     bool unload();
 
     // Points the dynamic linker and the companion folder at `folder` (default: the stage).
     static void useFolder(const QString& folder = QString());
-    static QString stageFolder();
+    static QString stageFolder() { return QStringLiteral(EC_STAGE_DIR); }
 
 private:
     QString m_name;

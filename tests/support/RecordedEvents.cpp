@@ -4,16 +4,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
-namespace {
-QString text(const QJsonValue& value)
-{
-    if (value.isString())
-        return value.toString();
-    const QByteArray wrapped = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
-    return QString::fromUtf8(wrapped.mid(1, wrapped.size() - 2));
-}
-} // namespace
-
 QVector<RecordedEvent> RecordedEvents::named(const QString& name) const
 {
     QVector<RecordedEvent> matching;
@@ -63,9 +53,12 @@ QStringList RecordedEvents::timeline(const QStringList& wanted) const
         if (!fieldOf.contains(event.name))
             continue;
         const QString field = fieldOf.value(event.name);
-        result << (field.isEmpty()
-                       ? event.name
-                       : event.name + QLatin1Char(' ') + text(event.fields.value(field)));
+        const QJsonValue value = event.fields.value(field);
+        // A string as it is; anything else as JSON, out of the array that wraps it.
+        const QString json =
+            QString::fromUtf8(QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact));
+        const QString text = value.isString() ? value.toString() : json.mid(1).chopped(1);
+        result << (field.isEmpty() ? event.name : event.name + QLatin1Char(' ') + text);
     }
     return result;
 }

@@ -1,6 +1,4 @@
-// The host's user-interface model: list semantics, ownership, commands and the JSON profile.
-#include "EventRecorder.h"
-
+// The host's user-interface model: list semantics, commands and the JSON profile.
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -13,30 +11,19 @@
 #include <CFxUIJsonWriter.h>
 #include <OdError.h>
 
-#include <memory>
+#include <array>
+#include <functional>
+#include <vector>
 
 namespace {
-QString defaultProfile()
+QString errorOf(const std::function<void()>& read)
 {
-    return QStringLiteral(EC_SOURCE_DIR "/host/profiles/default.json");
-}
-
-std::unique_ptr<CFxUI> loadDefault()
-{
-    auto ui = std::make_unique<CFxUI>();
-    CFxUIJsonReader::readFile(defaultProfile(), *ui);
-    return ui;
-}
-
-QString readError(const QByteArray& json)
-{
-    CFxUI ui;
     try {
-        CFxUIJsonReader::read(QJsonDocument::fromJson(json).object(), ui);
+        read();
     } catch (const OdError& error) {
         return QString::fromStdWString(error.description().wide());
     }
-    return QString();
+    return "<read without error>";
 }
 
 CFxUIGroup* mainGroup(const CFxUI& ui)
@@ -57,223 +44,123 @@ QStringList ids(const CFxUIList<CFxUIRibbonButton>& list)
 }
 } // namespace
 
-TEST(UiList, PlacesObjectsOnceAndSurvivesAnchorsItDoesNotHold)
+TEST(UiList, HoldsAnObjectOnceAndPutsItLastAfterAnAnchorItDoesNotHold)
 {
     CFxUI ui;
-    CFxUIRibbonRow* row = ui.CreateRibbonRow("ROW");
     auto* a = ui.CreateRibbonButton(CFxUIRibbonButton::kCommand, "A");
     auto* b = ui.CreateRibbonButton(CFxUIRibbonButton::kCommand, "B");
     auto* c = ui.CreateRibbonButton(CFxUIRibbonButton::kCommand, "C");
     auto* stranger = ui.CreateRibbonButton(CFxUIRibbonButton::kCommand, "STRANGER");
-    CFxUIList<CFxUIRibbonButton>& buttons = row->GetButtons();
+    CFxUIList<CFxUIRibbonButton> buttons;
 
     buttons.Append(a);
     EXPECT_TRUE(buttons.InsertAfter(nullptr, b)) << "a null anchor puts the button first";
     EXPECT_TRUE(buttons.InsertAfter(b, c));
-    EXPECT_EQ(ids(buttons), (QStringList{"B", "C", "A"}));
-
-    EXPECT_FALSE(buttons.InsertAfter(stranger, c)) << "an anchor the row does not hold";
-    EXPECT_EQ(ids(buttons), (QStringList{"B", "A", "C"})) << "the button goes last, and only once";
-
+    EXPECT_EQ(ids(buttons), QStringList({"B", "C", "A"}));
+    EXPECT_FALSE(buttons.InsertAfter(stranger, c));
+    EXPECT_EQ(ids(buttons), QStringList({"B", "A", "C"})) << "the button goes last, and only once";
     buttons.Append(b);
-    EXPECT_EQ(ids(buttons), (QStringList{"A", "C", "B"})) << "adding a held button moves it";
+    EXPECT_EQ(ids(buttons), QStringList({"A", "C", "B"})) << "adding a held button moves it";
     buttons.InsertAt(99, a);
-    EXPECT_EQ(ids(buttons), (QStringList{"C", "B", "A"}));
-    EXPECT_EQ(buttons.GetAt(3), nullptr);
-    EXPECT_EQ(buttons.GetAt(-1), nullptr);
-    EXPECT_TRUE(buttons.Remove(b));
-    EXPECT_FALSE(buttons.Remove(b));
-    EXPECT_EQ(buttons.GetCount(), 2);
+    EXPECT_EQ(ids(buttons), QStringList({"C", "B", "A"}));
 }
 
-TEST(UiModel, FactoriesRefuseUnknownButtonKindsAndFindCommandsInTheirGroupOnly)
-{
-    CFxUI ui;
-    EXPECT_EQ(ui.CreateRibbonButton(5, "X"), nullptr);
-    EXPECT_EQ(ui.CreateRibbonButton(CFxUIRibbonButton::kSeparator, "")->GetKind(),
-              CFxUIRibbonButton::kSeparator);
-
-    CFxUIGroup* main = ui.CreateMenuGroup("QUILLON");
-    CFxUIGroup* other = ui.CreateMenuGroup("CUSTOM");
-    ui.GetMenuGroups().Append(main);
-    ui.GetMenuGroups().Append(other);
-    CFxUICommand* listed = ui.CreateCommand("ID_LINE", main);
-    ui.CreateCommand("ID_ORPHAN", nullptr);
-    EXPECT_EQ(ui.FindCommand("quillon", "id_line"), listed) << "identifiers ignore letter case";
-    EXPECT_EQ(ui.FindCommand("CUSTOM", "ID_LINE"), nullptr);
-    EXPECT_EQ(ui.FindCommand("QUILLON", "ID_ORPHAN"), nullptr)
-        << "only the group's command list counts";
-    EXPECT_EQ(ui.FindCommand("NOGROUP", "ID_LINE"), nullptr);
-}
-
-TEST(UiModel, DeletingACommandLeavesNothingPointingAtIt)
+TEST(UiModel, CommandsAreFoundInTheirGroupAndADeletedOneIsReferredToNowhere)
 {
     CFxUI ui;
     CFxUIGroup* group = ui.CreateMenuGroup("QUILLON");
     ui.GetMenuGroups().Append(group);
+    ui.GetMenuGroups().Append(ui.CreateMenuGroup("CUSTOM"));
     CFxUICommand* command = ui.CreateCommand("ID_GONE", group);
+    CFxUICommand* kept = ui.CreateCommand("ID_KEPT", group);
+    EXPECT_EQ(ui.FindCommand("quillon", "id_gone"), command) << "identifiers ignore letter case";
+    EXPECT_EQ(ui.FindCommand("CUSTOM", "ID_GONE"), nullptr);
     auto* button = ui.CreateRibbonButton(CFxUIRibbonButton::kCommand, "B");
     button->AttachCommand(command);
     CFxUIRibbonSystemMenuItem* entry = ui.CreateRibbonSystemMenuItem("RSMI_X");
     entry->AttachCommand(command);
-    CFxUICommand* kept = ui.CreateCommand("ID_KEPT", group);
 
     ui.DeleteCommand(command);
     EXPECT_EQ(button->GetCommand(), nullptr);
     EXPECT_EQ(entry->GetCommand(), nullptr);
     EXPECT_EQ(group->GetCommands().GetCount(), 1);
-    EXPECT_EQ(group->GetCommands().GetAt(0), kept);
+    EXPECT_EQ(ui.FindCommand("QUILLON", "ID_KEPT"), kept);
 
     CFxUI otherUi;
     CFxUICommand* foreign = otherUi.CreateCommand("ID_FOREIGN", nullptr);
     ui.DeleteCommand(foreign);
     ui.DeleteCommand(nullptr);
-    EXPECT_EQ(foreign->GetIdentifier().toQString(), QStringLiteral("ID_FOREIGN"))
-        << "not ours: untouched";
+    EXPECT_EQ(foreign->GetIdentifier().toQString(), "ID_FOREIGN") << "not ours: untouched";
 }
 
-TEST(UiModel, GroupIteratorWalksTheGroupsAsTheyWereWhenItWasMade)
+TEST(UiProfile, TheDefaultProfileLinksItsObjectsAndSurvivesWritingAndReading)
 {
     CFxUI ui;
-    CFxUIGroup* first = ui.CreateMenuGroup("FIRST");
-    ui.GetMenuGroups().Append(first);
-    std::unique_ptr<CFxUIGroupIterator> iterator(ui.NewGroupIterator());
-    ui.GetMenuGroups().Append(ui.CreateMenuGroup("LATER"));
-    ASSERT_FALSE(iterator->Done());
-    EXPECT_EQ(iterator->Current(), first);
-    iterator->Next();
-    EXPECT_TRUE(iterator->Done());
-    EXPECT_EQ(iterator->Current(), nullptr);
-    iterator->Next();
-    EXPECT_TRUE(iterator->Done());
-}
-
-TEST(UiModel, UpdateIsReportedAndReachesTheHostsWindow)
-{
-    CFxUI ui;
-    int updates = 0;
-    ui.SetUpdateHandler([&updates] { ++updates; });
-    EventRecorder recorder;
-    ui.Update();
-    ui.Update();
-    EXPECT_EQ(updates, 2);
-    EXPECT_EQ(recorder.events().count(QStringLiteral("ui-updated")), 2);
-}
-
-TEST(UiProfile, DefaultProfileBuildsAPlausibleHost)
-{
-    const auto ui = loadDefault();
-    ASSERT_NE(ui->GetReferenceMenuGroup(), nullptr);
-    CFxUIGroup* main = mainGroup(*ui);
+    CFxUIJsonReader::readFile(EC_SOURCE_DIR "/host/profiles/default.json", ui);
+    CFxUIGroup* main = mainGroup(ui);
     ASSERT_NE(main, nullptr);
-    EXPECT_NE(main, ui->GetReferenceMenuGroup());
-    EXPECT_TRUE(main->IsEditable());
-
-    // Every entry of a pull-down menu shows an item that its group holds.
-    int entries = 0;
-    for (const CFxUIPullDownMenu* menu : main->GetPullDownMenus()) {
-        for (const CFxUIMenuEntry* entry : menu->GetEntries()) {
-            ASSERT_NE(entry->GetItem(), nullptr);
-            EXPECT_TRUE(main->GetMenuItems().Contains(entry->GetItem()));
-            EXPECT_EQ(entry->GetIdentifier(), entry->GetItem()->GetIdentifier());
-            ++entries;
-        }
-    }
-    EXPECT_EQ(main->GetMenuItems().GetCount(), entries);
-
-    // A tab's panels stand in the group's panel list too; the workspace shows the group's tabs.
-    for (const CFxUIRibbonTab* tab : main->GetRibbonTabs()) {
-        for (const CFxUIRibbonPanel* panel : tab->GetPanels())
-            EXPECT_TRUE(main->GetRibbonPanels().Contains(panel));
-    }
-    const CFxUIWorkspace* drafting = ui->FindWorkspace("drafting and annotation");
+    // A workspace shows the group's own tabs, and a button runs one of the group's commands.
+    const CFxUIWorkspace* drafting = ui.FindWorkspace("drafting and annotation");
     ASSERT_NE(drafting, nullptr);
-    ASSERT_GT(drafting->GetRibbonTabs().GetCount(), 0);
     EXPECT_TRUE(main->GetRibbonTabs().Contains(drafting->GetRibbonTabs().GetAt(0)));
+    const CFxUIRibbonRow* row =
+        main->GetRibbonTabs().GetAt(0)->GetPanels().GetAt(0)->GetRows().GetAt(0);
+    EXPECT_TRUE(main->GetCommands().Contains(row->GetButtons().GetAt(0)->GetCommand()));
 
-    // Buttons run the group's own commands.
-    const CFxUIRibbonButton* line = main->GetRibbonTabs()
-                                        .GetAt(0)
-                                        ->GetPanels()
-                                        .GetAt(0)
-                                        ->GetRows()
-                                        .GetAt(0)
-                                        ->GetButtons()
-                                        .GetAt(0);
-    ASSERT_NE(line->GetCommand(), nullptr);
-    EXPECT_TRUE(main->GetCommands().Contains(line->GetCommand()));
-}
-
-TEST(UiProfile, WritingAndReadingAgainGivesTheSameModel)
-{
-    const auto ui = loadDefault();
-    CFxUI* model = ui.get();
     // An attached command outside any command list, and a separator, must survive the trip.
-    CFxUIRibbonSystemMenuItem* rsm = mainGroup(*model)->GetApplicationMenu().GetAt(0);
-    CFxUIRibbonSystemMenuItem* extra = model->CreateRibbonSystemMenuItem("RSMI_EXTRA");
-    CFxUICommand* unlisted = model->CreateCommand("ID_UNLISTED", nullptr);
+    CFxUIRibbonSystemMenuItem* rsm = main->GetApplicationMenu().GetAt(0);
+    CFxUIRibbonSystemMenuItem* extra = ui.CreateRibbonSystemMenuItem("RSMI_EXTRA");
+    CFxUICommand* unlisted = ui.CreateCommand("ID_UNLISTED", nullptr);
     unlisted->SetMacro("_UNLISTED");
-    unlisted->SetLargeIcon(":/a.png", "");
     extra->AttachCommand(unlisted);
-    rsm->GetSubItems().Append(model->CreateRibbonSystemMenuItem("ID_SEPARATOR"));
+    rsm->GetSubItems().Append(ui.CreateRibbonSystemMenuItem("ID_SEPARATOR"));
     rsm->GetSubItems().Append(extra);
 
-    const QJsonObject written = CFxUIJsonWriter::write(*model);
+    const QJsonObject written = CFxUIJsonWriter::write(ui);
     CFxUI reread;
     CFxUIJsonReader::read(written, reread);
     EXPECT_EQ(CFxUIJsonWriter::write(reread), written);
-    const QJsonArray items = written[QStringLiteral("groups")][1][QStringLiteral("applicationMenu")]
-                                    [0][QStringLiteral("items")]
-                                        .toArray();
-    EXPECT_TRUE(items[items.size() - 2][QStringLiteral("separator")].toBool());
-    EXPECT_EQ(items.last()[QStringLiteral("command")][QStringLiteral("macro")].toString(),
-              QStringLiteral("_UNLISTED"));
+    const QJsonArray items = written["groups"][1]["applicationMenu"][0]["items"].toArray();
+    EXPECT_TRUE(items[items.size() - 2]["separator"].toBool());
+    EXPECT_EQ(items.last()["command"]["macro"].toString(), "_UNLISTED");
 }
 
-TEST(UiProfile, RefusesMalformedProfilesSayingWhere)
+TEST(UiProfile, ErrorsNameThePlaceInTheProfileOrTheFile)
 {
-    EXPECT_TRUE(readError(R"({"groups":[{"id":"G","menus":[{"id":"M","colour":1}]}]})")
-                    .startsWith(QStringLiteral("/groups/0/menus/0: unknown field 'colour'")));
-    EXPECT_TRUE(readError(R"({"groups":[{"main":true}]})")
-                    .startsWith(QStringLiteral("/groups/0: 'id' must be a string")));
-    EXPECT_TRUE(readError(R"({"groups":[{"id":"G","main":"yes"}]})")
-                    .contains(QStringLiteral("true or false")));
-    EXPECT_TRUE(readError(R"({"groups":[{"id":"A","reference":true},{"id":"B","reference":true}]})")
-                    .startsWith(QStringLiteral("/groups/1: only one group")));
-    EXPECT_TRUE(
-        readError(
-            R"({"groups":[{"id":"G","tabs":[{"id":"T","panels":[{"id":"P","rows":[{"id":"R","buttons":[{"kind":"big"}]}]}]}]}]})")
-            .startsWith(QStringLiteral("/groups/0/tabs/0/panels/0/rows/0/buttons/0: 'kind'")));
-    EXPECT_TRUE(
-        readError(R"({"groups":[{"id":"G","applicationMenu":[{"id":"RSM","command":"ID_NONE"}]}]})")
-            .contains(QStringLiteral("no command 'ID_NONE'")));
-    EXPECT_TRUE(readError(R"({"workspaces":[{"name":"W","tabs":["ID_NOTAB"]}]})")
-                    .contains(QStringLiteral("no tab 'ID_NOTAB'")));
-    EXPECT_TRUE(
-        readError(R"({"menus":[]})").startsWith(QStringLiteral("/: unknown field 'menus'")));
-    EXPECT_TRUE(
-        readError(
-            R"({"groups":[{"id":"G","tabs":[{"id":"T","panels":[{"id":"P","launcher":0.5}]}]}]})")
-            .contains(QStringLiteral("whole number")));
-}
+    const char* const tabs = R"({"groups":[{"id":"G","tabs":[{"id":"T","panels":[{"id":"P",)";
+    const std::vector<std::array<QString, 3>> cases = {
+        {R"({"groups":[{"id":"G","menus":[{"id":"M","colour":1}]}]})", "/groups/0/menus/0",
+         "unknown field 'colour'"},
+        {R"({"groups":[{"main":true}]})", "/groups/0", "'id' must be a string"},
+        {R"({"groups":[{"id":"G","main":"yes"}]})", "/groups/0", "true or false"},
+        {R"({"groups":[{"id":"A","reference":true},{"id":"B","reference":true}]})", "/groups/1",
+         "only one group"},
+        {tabs + QString(R"("rows":[{"id":"R","buttons":[{"kind":"big"}]}]}]}]}]})"),
+         "/groups/0/tabs/0/panels/0/rows/0/buttons/0", "'kind'"},
+        {tabs + QString(R"("launcher":0.5}]}]}]})"), "/groups/0/tabs/0/panels/0", "whole number"},
+        {R"({"groups":[{"id":"G","applicationMenu":[{"id":"RSM","command":"ID_NONE"}]}]})",
+         "/groups/0/applicationMenu/0", "no command 'ID_NONE'"},
+        {R"({"workspaces":[{"name":"W","tabs":["ID_NOTAB"]}]})", "/workspaces/0",
+         "no tab 'ID_NOTAB'"},
+        {R"({"menus":[]})", "/", "unknown field 'menus'"},
+    };
+    for (const auto& bad : cases) {
+        CFxUI ui;
+        const QString error = errorOf(
+            [&] { CFxUIJsonReader::read(QJsonDocument::fromJson(bad[0].toUtf8()).object(), ui); });
+        EXPECT_TRUE(error.startsWith(bad[1] + ": ") && error.contains(bad[2])) << qPrintable(error);
+    }
 
-TEST(UiProfile, AFileThatIsNoProfileIsNamedInTheError)
-{
     QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("broken.json"));
-    QFile file(path);
+    const QString broken = folder.filePath("broken.json");
+    QFile file(broken);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("{\"groups\": [");
     file.close();
-    CFxUI ui;
-    try {
-        CFxUIJsonReader::readFile(path, ui);
-        FAIL() << "a broken file was read";
-    } catch (const OdError& error) {
-        const QString message = QString::fromStdWString(error.description().wide());
-        EXPECT_TRUE(message.startsWith(path + QStringLiteral(": not valid JSON")))
-            << qPrintable(message);
+    for (const auto& bad : {std::pair(broken, "not valid JSON"),
+                            std::pair(folder.filePath("missing.json"), "cannot be read")}) {
+        CFxUI ui;
+        const QString error = errorOf([&] { CFxUIJsonReader::readFile(bad.first, ui); });
+        EXPECT_TRUE(error.startsWith(bad.first + ": " + bad.second)) << qPrintable(error);
     }
-    EXPECT_THROW(CFxUIJsonReader::readFile(folder.filePath(QStringLiteral("missing.json")), ui),
-                 OdError);
 }

@@ -1,0 +1,93 @@
+// The host's parts: splitting a script into statements and words, the command line, and how
+// an event is written, as one JSON object per line or one readable line.
+#include "EventPrinter.h"
+#include "HostError.h"
+#include "HostOptions.h"
+#include "ScriptParser.h"
+
+#include <QJsonArray>
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace {
+QStringList wordsOf(const QString& script)
+{
+    QStringList statements;
+    for (const ScriptStatement& statement : ScriptParser::parse(script))
+        statements << QString::number(statement.line) + ": " + statement.words.join('|');
+    return statements;
+}
+
+HostOptions parse(const QStringList& arguments)
+{
+    QString helpText;
+    bool exitEarly = false;
+    return HostOptions::parse(arguments, helpText, exitEarly);
+}
+
+QString refusal(const QStringList& arguments)
+{
+    try {
+        parse(arguments);
+    } catch (const HostError& error) {
+        return error.message();
+    }
+    return QStringLiteral("<accepted>");
+}
+} // namespace
+
+TEST(ScriptParserTest, SplitsLinesAndSemicolonsIntoStatementsAndQuotesKeepWordsWhole)
+{
+    EXPECT_EQ(wordsOf("load ExtCommands\r\n\n  open\tplan.dxf ;; activate 1\n"
+                      "# only a comment\nHome   # runs the home command;not a statement"),
+              QStringList({"1: load|ExtCommands", "3: open|plan.dxf", "3: activate|1", "5: Home"}));
+    EXPECT_TRUE(ScriptParser::parse(" \n#\n ; ").isEmpty());
+    // Double quotes keep blanks, semicolons and hashes in one word.
+    EXPECT_EQ(wordsOf("SAMPLELOAD \"my ribbon.json\" \"\"; X \"a;b # c\" pre\"fix suf\"fix"),
+              QStringList({"1: SAMPLELOAD|my ribbon.json|", "1: X|a;b # c|prefix suffix"}));
+    EXPECT_EQ(ScriptParser::parse("open \"my plan.dxf\"").first().text, "open my plan.dxf");
+}
+
+// The product version, which no session of these tests sets, and how repeated options combine.
+TEST(HostOptionsTest, RepeatedOptionsAddUpAndModulesGivenReplaceTheDefaultList)
+{
+    const HostOptions options =
+        parse({"--module", "A", "--module", "B", "--module-path", "m1", "--module-path", "m2",
+               "--product-version", "2017.0.5.1234"});
+    EXPECT_EQ(options.modules, QStringList({"A", "B"}));
+    EXPECT_EQ(options.modulePath, QStringList({"m1", "m2"}));
+    EXPECT_EQ(std::vector<int>(options.productVersion, options.productVersion + 4),
+              std::vector<int>({2017, 0, 5, 1234}));
+    EXPECT_TRUE(parse({"--no-module"}).modules.isEmpty());
+    EXPECT_EQ(parse({"--no-module", "--module", "A"}).modules, QStringList({"A"}));
+}
+
+TEST(HostOptionsTest, RefusesBadArgumentsWithAClearMessage)
+{
+    EXPECT_EQ(refusal({"--module"}), "Missing value after '--module'.");
+    EXPECT_EQ(refusal({"--language", "English"}), "--language takes a whole number, not 'English'");
+    EXPECT_EQ(refusal({"--product-version", "2017.0.5"}),
+              "--product-version takes four numbers A.B.C.D, not '2017.0.5'");
+    EXPECT_EQ(refusal({"--product-version", "2017.0.x.5"}),
+              "--product-version takes a whole number, not 'x'");
+    EXPECT_EQ(refusal({"a.qs", "b.qs"}), "one script at most, not a.qs b.qs");
+    EXPECT_EQ(refusal({"a.qs", "-c", "Home"}), "give either a script file or -c TEXT, not both");
+}
+
+TEST(EventPrinterTest, WritesTheFieldsInTheirOrderAsJsonOrAsReadableText)
+{
+    const OdEventFields fields{{"name", "_Home"},
+                               {"result", 5100},
+                               {"args", QJsonArray{"a b", 1}},
+                               {"path", "/my drawings/plan \"A\".dxf"},
+                               {"none", QJsonValue()}};
+    EXPECT_EQ(EventPrinter::jsonLine("command-ended", fields),
+              R"({"event":"command-ended","name":"_Home","result":5100,"args":["a b",1],)"
+              R"("path":"/my drawings/plan \"A\".dxf","none":null})");
+    EXPECT_EQ(EventPrinter::readableLine("command-ended", fields),
+              R"(command-ended name=_Home result=5100 args=["a b",1] )"
+              R"(path="/my drawings/plan \"A\".dxf" none=null)");
+    EXPECT_EQ(EventPrinter::readableLine("mainframe-created", {}), "mainframe-created");
+}
