@@ -69,10 +69,20 @@ TEST_F(HostSession, ShowsTheModulesWholeLifeAsEvents)
     EXPECT_TRUE(result.events.timeline({"companion-call args"})
                     .contains(R"(companion-call ["2026.0.4120"])"));
 
-    // The next session of the same version in the same home takes the reminder.
+    // The next session of the same version in the same home takes the reminder, and the
+    // companion asks the user about the crash reports waiting by then.
+    const QString reports = host.folders().dataHome() + "/Corvane/Quillon/CrashReports";
+    ASSERT_TRUE(QDir().mkpath(reports));
+    writeFile(reports + "/b.dmp");
+    writeFile(reports + "/a.dmp");
+    writeFile(reports + "/notes.txt");
     const HostResult next = host.runScript("open plan.dxf; open plan.dxf");
     EXPECT_EQ(next.events.values("companion-call", "call"),
               QStringList({"getRegVersion", "reminderCheck"}));
+    const QStringList asked = next.events.values("message-box", "text");
+    ASSERT_EQ(asked.size(), 1);
+    EXPECT_TRUE(asked[0].startsWith("2 crash report(s)")) << qPrintable(asked[0]);
+    EXPECT_TRUE(asked[0].endsWith(": a.dmp, b.dmp")) << qPrintable(asked[0]);
 }
 
 TEST_F(HostSession, CommandsThatAnUnloadedModuleLeftBehindAreTakenOffTheStack)
