@@ -1,6 +1,7 @@
 // The companions through quillon-host, in installations of the test's own: which of them the
 // module reaches, in which order, and what the user's switches do.
 #include "HostProcess.h"
+#include "StageFiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,8 +11,6 @@
 #include <QUuid>
 
 #include <gtest/gtest.h>
-
-#include <unistd.h>
 
 #include <optional>
 
@@ -52,8 +51,7 @@ protected:
     {
         const QString source = HostProcess::stageFolder() + '/' + file;
         const QString target = m_root.filePath(folder + '/' + file);
-        if (::link(QFile::encodeName(source), QFile::encodeName(target)) != 0)
-            ASSERT_TRUE(QFile::copy(source, target)) << qPrintable(source);
+        ASSERT_TRUE(StageFiles::linkOrCopy(source, target)) << qPrintable(source);
     }
 
     // "OmniplaneCSEnable" in the registry stand-in; "premiumnetworkdisable" where Qt's system

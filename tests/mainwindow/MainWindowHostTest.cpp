@@ -1,6 +1,7 @@
 // The main window's Help entries and languages through quillon-host: the default locale, the
 // translators installed, the texts of the Help entries and the product pages they open.
 #include "HostProcess.h"
+#include "StageFiles.h"
 #include "UiModel.h"
 
 #include <QDir>
@@ -8,8 +9,6 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
-
-#include <unistd.h>
 
 #include <ostream>
 
@@ -127,8 +126,7 @@ protected:
     void SetUp() override
     {
         const QString program = m_folder.filePath("quillon-host");
-        if (::link(QFile::encodeName(HostProcess::program()), QFile::encodeName(program)) != 0)
-            ASSERT_TRUE(QFile::copy(HostProcess::program(), program));
+        ASSERT_TRUE(StageFiles::linkOrCopy(HostProcess::program(), program));
         for (const QFileInfo& library :
              QDir(HostProcess::stageFolder()).entryInfoList({"*.so"}, QDir::Files))
             ASSERT_TRUE(QFile::link(library.filePath(), m_folder.filePath(library.fileName())));
