@@ -11,11 +11,6 @@
 #endif
 
 namespace {
-QString toQt(const OdString& text)
-{
-    return QString::fromStdWString(text.wide());
-}
-
 OdString fromQt(const QString& text)
 {
     return OdString(text.toStdWString());
@@ -65,6 +60,13 @@ OdString OdSharedLibrary::fileContaining(const void* address)
 }
 
 #else
+
+namespace {
+QString toQt(const OdString& text)
+{
+    return QString::fromStdWString(text.wide());
+}
+} // namespace
 
 OdModuleHandle OdSharedLibrary::open(const OdString& path, OdString& error)
 {

@@ -67,21 +67,21 @@ BSTR automationString(const QByteArray& text)
 }
 
 // The six arguments as a dispatch call wants them: the last one first.
-void fillReversed(VARIANT (&slots)[6], const ViewerOpenArguments& arguments)
+void fillReversed(VARIANT (&reversed)[6], const ViewerOpenArguments& arguments)
 {
     const BSTR texts[4] = {automationString(arguments.path), automationString(arguments.viewerName),
                            automationString(arguments.firstText),
                            automationString(arguments.secondText)};
     const bool flags[2] = {arguments.firstFlag, arguments.secondFlag};
     for (int i = 0; i < 4; ++i) {
-        VariantInit(&slots[5 - i]);
-        slots[5 - i].vt = VT_BSTR;
-        slots[5 - i].bstrVal = texts[i];
+        VariantInit(&reversed[5 - i]);
+        reversed[5 - i].vt = VT_BSTR;
+        reversed[5 - i].bstrVal = texts[i];
     }
     for (int i = 0; i < 2; ++i) {
-        VariantInit(&slots[1 - i]);
-        slots[1 - i].vt = VT_BOOL;
-        slots[1 - i].boolVal = flags[i] ? VARIANT_TRUE : VARIANT_FALSE;
+        VariantInit(&reversed[1 - i]);
+        reversed[1 - i].vt = VT_BOOL;
+        reversed[1 - i].boolVal = flags[i] ? VARIANT_TRUE : VARIANT_FALSE;
     }
 }
 } // namespace
@@ -132,13 +132,13 @@ bool ComViewerAutomation::openThroughDispatch(const QString& identifier,
     IDispatch* application = createApplication(identifier);
     if (!application)
         return false;
-    VARIANT slots[6];
-    fillReversed(slots, arguments);
-    DISPPARAMS parameters = {slots, nullptr, 6, 0};
+    VARIANT reversed[6];
+    fillReversed(reversed, arguments);
+    DISPPARAMS parameters = {reversed, nullptr, 6, 0};
     application->Invoke(Automation::openDispatchId, IID_NULL, kLocale, DISPATCH_METHOD, &parameters,
                         nullptr, nullptr, nullptr);
-    for (VARIANT& slot : slots)
-        VariantClear(&slot);
+    for (VARIANT& argument : reversed)
+        VariantClear(&argument);
     application->Release();
     return true;
 }
