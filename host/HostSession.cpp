@@ -2,6 +2,7 @@
 
 #include "HostError.h"
 #include "HostWindow.h"
+#include "ScriptRunner.h"
 #include "TranslationObserver.h"
 #include "UrlRecorder.h"
 
@@ -41,7 +42,10 @@ QString toQt(const OdString& text)
 
 HostSession::HostSession(const HostOptions& options) : m_options(options) {}
 
-HostSession::~HostSession() = default;
+HostSession::~HostSession()
+{
+    *m_alive = false;
+}
 
 QString HostSession::programFolder()
 {
@@ -141,7 +145,7 @@ void HostSession::createMainFrame()
             m_mainFrame->show();
         }
         if (CFxUI* ui = GetFxSystemServices()->GetUI())
-            ui->SetUpdateHandler([this] { refreshWindow(); });
+            ui->SetUpdateHandler([this] { scheduleRefresh(); });
     }
     GetFxSystemServices()->MainFrameCreated(m_mainFrame.get());
     refreshWindow();
@@ -161,8 +165,31 @@ void HostSession::destroyMainFrame()
 
 void HostSession::refreshWindow()
 {
-    if (m_mainFrame && GetFxSystemServices()->GetUI())
-        m_mainFrame->showModel(*GetFxSystemServices()->GetUI());
+    m_refreshPending = false;
+    if (!m_mainFrame)
+        return;
+    if (const CFxUI* ui = GetFxSystemServices()->GetUI())
+        m_mainFrame->showModel(*ui);
+    m_mainFrame->showDocument(ACTIVE_DOCUMENT);
+    QStringList names = ScriptRunner::statementKeywords();
+    for (const OdEdCommand* command : odedRegCmds()->commands())
+        names << toQt(command->localName()) << toQt(command->globalName());
+    m_mainFrame->setCompletions(names);
+}
+
+void HostSession::scheduleRefresh()
+{
+    if (m_refreshPending)
+        return;
+    m_refreshPending = true;
+    std::weak_ptr<bool> alive = m_alive;
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(),
+        [this, alive] {
+            if (!alive.expired() && m_refreshPending)
+                refreshWindow();
+        },
+        Qt::QueuedConnection);
 }
 
 void HostSession::loadModule(const QString& name)
@@ -258,6 +285,7 @@ void HostSession::screenshot(const QString& path)
         m_mainFrame->setAttribute(Qt::WA_DontShowOnScreen, true);
         m_mainFrame->show();
     }
+    refreshWindow();
     QCoreApplication::processEvents();
     if (!m_mainFrame->grab().save(path, "PNG"))
         throw HostError(QStringLiteral("cannot write %1").arg(path));

@@ -57,7 +57,11 @@ public:
     void settle();
 
     HostWindow* mainFrame() const { return m_mainFrame.get(); }
+    // Shows the model, the active document and the command names in the window now.
     void refreshWindow();
+    // Asks for one refresh at the next turn of the event loop, however often it is asked for
+    // before then: a module that updates the model many times costs one redraw.
+    void scheduleRefresh();
     static QString programFolder();
     static QString defaultUiProfile();
 
@@ -76,4 +80,6 @@ private:
     std::function<void(const QString&)> m_onCommandLine;
     std::function<void()> m_onClose;
     ViewerCallListener m_viewerCalls;
+    bool m_refreshPending = false;
+    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
 };
