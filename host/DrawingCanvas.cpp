@@ -150,16 +150,19 @@ void DrawingCanvas::paintTexts(QPainter& painter) const
 void DrawingCanvas::paintPlaceholders(QPainter& painter) const
 {
     const QTransform view = viewTransform();
-    const QFontMetrics metrics(font());
     QPen frame(placeholderColor(), 1, Qt::DashLine);
+    QFont font = this->font();
     for (const DrawingScene::Placeholder& placeholder : m_scene->placeholders()) {
-        const QPointF at = view.map(placeholder.position);
-        const QRectF box =
-            QRectF(metrics.boundingRect(placeholder.name)).translated(at).adjusted(-6, -4, 6, 4);
+        const QRectF box = view.mapRect(placeholder.frame);
         painter.setPen(frame);
         painter.drawRect(box);
+        const int pixels = static_cast<int>(std::min(box.height() / 3, box.width() / 8));
+        if (pixels < 4)
+            continue;
+        font.setPixelSize(pixels);
+        painter.setFont(font);
         painter.setPen(placeholderColor());
-        painter.drawText(at, placeholder.name);
+        painter.drawText(box, Qt::AlignCenter | Qt::TextWrapAnywhere, placeholder.name);
     }
 }
 

@@ -38,10 +38,11 @@ public:
         double degrees;
         QString text;
     };
-    // A referenced drawing that could not be read, where it is inserted.
+    // A referenced drawing that could not be read: a frame whose lower left corner is where
+    // it is inserted, with the reference's name.
     struct Placeholder
     {
-        QPointF position;
+        QRectF frame; // y up: top() is the lower edge
         QString name;
     };
 

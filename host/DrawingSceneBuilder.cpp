@@ -92,7 +92,7 @@ std::shared_ptr<const DrawingScene> DrawingSceneBuilder::build()
             m_skippedReferences;
     if (m_missingBlocks > 0)
         m_result->m_undrawn[QStringLiteral("INSERT (no such block)")] += m_missingBlocks;
-    m_result->m_extents = extentsOf(*m_result);
+    frameReferences(*m_result);
     return m_result;
 }
 
@@ -191,6 +191,13 @@ bool DrawingSceneBuilder::parseEntity(const QByteArray& type, const EntityGroups
     } else if (type == "MTEXT") {
         shapes.m_texts.append({entity.point(10), entity.value(40, 1.0), entity.value(50),
                                plainMText(entity.text(1))});
+    } else if (type == "SOLID" || type == "TRACE") {
+        // The third and fourth corners are stored the other way round.
+        shapes.m_polylines.append(QPolygonF({entity.point(10), entity.point(11), entity.point(13),
+                                             entity.point(12), entity.point(10)}));
+    } else if (type == "DIMENSION") {
+        // A dimension is drawn as the block that holds its picture.
+        content.inserts.push_back({entity.text(2), QTransform()});
     } else if (type == "INSERT") {
         QTransform placement;
         placement.translate(entity.value(10), entity.value(20));
@@ -232,7 +239,7 @@ void DrawingSceneBuilder::place(const Pending& item, DrawingScene& scene,
         } else if (const Drawing* drawing = referenced(*item.drawing, block.path)) {
             pending.push_back({drawing, &drawing->model, placed, item.depth + 1});
         } else {
-            scene.m_placeholders.append({placed.map(QPointF()), insert.block});
+            scene.m_placeholders.append({QRectF(placed.map(QPointF()), QSizeF()), insert.block});
         }
     }
 }
@@ -335,10 +342,20 @@ QRectF DrawingSceneBuilder::extentsOf(const DrawingScene& scene)
         take(text.position.x(), text.position.y(),
              text.position.x() + text.height * 0.6 * text.text.size(),
              text.position.y() + text.height);
-    for (const DrawingScene::Placeholder& placeholder : scene.m_placeholders)
-        take(placeholder.position.x(), placeholder.position.y(), placeholder.position.x(),
-             placeholder.position.y());
     if (left > right || bottom > top)
         return QRectF();
     return QRectF(QPointF(left, bottom), QPointF(right, top));
+}
+
+void DrawingSceneBuilder::frameReferences(DrawingScene& scene)
+{
+    // A referenced drawing that cannot be read has no size of its own: its frame takes a
+    // size from the rest of the drawing, so that it reads at any zoom as the drawing does.
+    QRectF extents = extentsOf(scene);
+    const double side = extents.isEmpty() ? 1.0 : std::max(extents.width(), extents.height()) / 8;
+    for (DrawingScene::Placeholder& placeholder : scene.m_placeholders) {
+        placeholder.frame = QRectF(placeholder.frame.topLeft(), QSizeF(2 * side, side));
+        extents = extents.isNull() ? placeholder.frame : extents.united(placeholder.frame);
+    }
+    scene.m_extents = extents;
 }

@@ -69,6 +69,7 @@ private:
     void place(const Pending& item, DrawingScene& scene, std::vector<Pending>& pending);
     static void append(const DrawingScene& shapes, const QTransform& toWorld, DrawingScene& scene);
     static QRectF extentsOf(const DrawingScene& scene);
+    static void frameReferences(DrawingScene& scene);
 
     std::shared_ptr<DrawingScene> m_result;
     Drawing m_main;
