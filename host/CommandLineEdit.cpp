@@ -14,6 +14,15 @@ CommandLineEdit::CommandLineEdit(QWidget* parent)
     m_completer->setCompletionMode(QCompleter::PopupCompletion);
     setCompleter(m_completer);
     connect(this, &QLineEdit::returnPressed, this, &CommandLineEdit::enter);
+    connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
+        if (m_source && !text.contains(QLatin1Char(' ')))
+            setCompletions(m_source());
+    });
+}
+
+void CommandLineEdit::setCompletionSource(std::function<QStringList()> source)
+{
+    m_source = std::move(source);
 }
 
 void CommandLineEdit::setCompletions(const QStringList& names)
@@ -80,6 +89,8 @@ void CommandLineEdit::complete()
     const QString typed = text();
     if (typed.contains(QLatin1Char(' ')))
         return;
+    if (m_source)
+        setCompletions(m_source());
     QStringList fits;
     for (const QString& name : m_model->stringList()) {
         if (name.startsWith(typed, Qt::CaseInsensitive))

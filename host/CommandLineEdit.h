@@ -3,6 +3,8 @@
 #include <QLineEdit>
 #include <QStringList>
 
+#include <functional>
+
 class QCompleter;
 class QStringListModel;
 
@@ -17,6 +19,8 @@ class CommandLineEdit : public QLineEdit
 public:
     explicit CommandLineEdit(QWidget* parent = nullptr);
 
+    // The names to complete, asked for as the first word is typed.
+    void setCompletionSource(std::function<QStringList()> source);
     void setCompletions(const QStringList& names);
     const QStringList& history() const { return m_history; }
 
@@ -36,6 +40,7 @@ private:
     int m_historyAt = 0; // m_history.size() while a new line is typed
     QString m_draft;
     QStringList m_names;
+    std::function<QStringList()> m_source;
     QStringListModel* m_model;
     QCompleter* m_completer;
 };

@@ -143,6 +143,11 @@ void DrawingSceneBuilder::parse(const std::vector<OdDxfGroup>& groups, Drawing& 
                         points.append(EntityGroups{all + end, all + next}.point(10));
                     end = next;
                 }
+                if (end < count && all[end].isStart("SEQEND")) {
+                    ++end;
+                    while (end < count && all[end].code() != 0)
+                        ++end;
+                }
                 const int flags = static_cast<int>(entity.value(70));
                 if (flags & (8 | 16 | 64)) {
                     ++undrawn[QStringLiteral("POLYLINE (3D or mesh)")];
@@ -193,8 +198,9 @@ bool DrawingSceneBuilder::parseEntity(const QByteArray& type, const EntityGroups
                                plainMText(entity.text(1))});
     } else if (type == "SOLID" || type == "TRACE") {
         // The third and fourth corners are stored the other way round.
-        shapes.m_polylines.append(QPolygonF({entity.point(10), entity.point(11), entity.point(13),
-                                             entity.point(12), entity.point(10)}));
+        shapes.m_polylines.append(
+            QPolygonF(QVector<QPointF>{entity.point(10), entity.point(11), entity.point(13),
+                                       entity.point(12), entity.point(10)}));
     } else if (type == "DIMENSION") {
         // A dimension is drawn as the block that holds its picture.
         content.inserts.push_back({entity.text(2), QTransform()});

@@ -138,6 +138,8 @@ void HostSession::createMainFrame()
     // reaches them again, with the same window.
     if (!m_mainFrame) {
         m_mainFrame.reset(new HostWindow);
+        m_mainFrame->setCompletionSource(&HostSession::completions);
+        m_modelChanged = true;
         if (m_onCommandLine) {
             QObject::connect(m_mainFrame.get(), &HostWindow::commandLineEntered, m_onCommandLine);
             QObject::connect(m_mainFrame.get(), &HostWindow::closeRequested,
@@ -168,17 +170,16 @@ void HostSession::refreshWindow()
     m_refreshPending = false;
     if (!m_mainFrame)
         return;
-    if (const CFxUI* ui = GetFxSystemServices()->GetUI())
+    const CFxUI* ui = GetFxSystemServices()->GetUI();
+    if (ui && m_modelChanged)
         m_mainFrame->showModel(*ui);
+    m_modelChanged = false;
     m_mainFrame->showDocument(ACTIVE_DOCUMENT);
-    QStringList names = ScriptRunner::statementKeywords();
-    for (const OdEdCommand* command : odedRegCmds()->commands())
-        names << toQt(command->localName()) << toQt(command->globalName());
-    m_mainFrame->setCompletions(names);
 }
 
 void HostSession::scheduleRefresh()
 {
+    m_modelChanged = true;
     if (m_refreshPending)
         return;
     m_refreshPending = true;
@@ -190,6 +191,14 @@ void HostSession::scheduleRefresh()
                 refreshWindow();
         },
         Qt::QueuedConnection);
+}
+
+QStringList HostSession::completions()
+{
+    QStringList names = ScriptRunner::statementKeywords();
+    for (const OdEdCommand* command : odedRegCmds()->commands())
+        names << toQt(command->localName()) << toQt(command->globalName());
+    return names;
 }
 
 void HostSession::loadModule(const QString& name)
@@ -295,6 +304,8 @@ void HostSession::screenshot(const QString& path)
 
 void HostSession::settle()
 {
+    // The refresh asked for during the statement is done once, at its end.
+    m_refreshPending = false;
     QCoreApplication::sendPostedEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     odrxDynamicLinker()->unloadUnreferenced();

@@ -63,6 +63,8 @@ public:
     // before then: a module that updates the model many times costs one redraw.
     void scheduleRefresh();
     static QString programFolder();
+    // What the window's command line completes: the statements and the commands' names.
+    static QStringList completions();
     static QString defaultUiProfile();
 
 private:
@@ -81,5 +83,6 @@ private:
     std::function<void()> m_onClose;
     ViewerCallListener m_viewerCalls;
     bool m_refreshPending = false;
+    bool m_modelChanged = true; // the model changed since the window last showed it
     std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
 };

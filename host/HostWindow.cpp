@@ -126,9 +126,9 @@ QString HostWindow::sceneSummary(const DrawingScene& scene)
     return summary;
 }
 
-void HostWindow::setCompletions(const QStringList& names)
+void HostWindow::setCompletionSource(std::function<QStringList()> source)
 {
-    m_commandLine->setCompletions(names);
+    m_commandLine->setCompletionSource(std::move(source));
 }
 
 void HostWindow::appendLog(const QString& line)

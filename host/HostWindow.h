@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QMainWindow>
 
+#include <functional>
 #include <memory>
 
 class CFxDocument;
@@ -30,8 +31,8 @@ public:
     // Shows the drawing of `document` (null: none). A document keeps its picture while it is
     // open, so switching back is immediate.
     void showDocument(const CFxDocument* document);
-    // The names the command line completes.
-    void setCompletions(const QStringList& names);
+    // Where the command line takes the names it completes from, when the user types.
+    void setCompletionSource(std::function<QStringList()> source);
     void appendLog(const QString& line);
 
     DrawingCanvas* canvas() const { return m_canvas; }

@@ -107,14 +107,18 @@ void RibbonWidget::showTabs(const CFxUI& ui)
     for (std::size_t at = 0; sameTabs && at < tabs.size(); ++at)
         sameTabs = tabs[at] == m_shown[at].tab;
     if (sameTabs) {
+        // Only the tab in front is compared; the others are built anew when they are shown.
         for (std::size_t at = 0; at < tabs.size(); ++at) {
-            const quint64 signature = UiSignature::ofTab(*tabs[at]);
-            if (signature == m_shown[at].signature)
-                continue;
             const int index = static_cast<int>(at);
-            m_shown[at] = {tabs[at], signature, false};
-            m_tabs->setTabText(index, tabs[at]->GetCaption().toQString());
-            if (index == m_tabs->currentIndex())
+            const QString caption = tabs[at]->GetCaption().toQString();
+            if (m_tabs->tabText(index) != caption)
+                m_tabs->setTabText(index, caption);
+            if (index != m_tabs->currentIndex()) {
+                m_shown[at].built = false;
+                continue;
+            }
+            const quint64 signature = UiSignature::ofTab(*tabs[at]);
+            if (signature != m_shown[at].signature || !m_shown[at].built)
                 buildPage(index);
         }
         return;
@@ -137,7 +141,7 @@ void RibbonWidget::showTabs(const CFxUI& ui)
     for (const CFxUIRibbonTab* tab : tabs) {
         if (tab->GetIdentifier().toQString().compare(current, Qt::CaseInsensitive) == 0)
             currentIndex = static_cast<int>(m_shown.size());
-        m_shown.push_back({tab, UiSignature::ofTab(*tab), false});
+        m_shown.push_back({tab, 0, false});
         auto* page = new QWidget;
         new QHBoxLayout(page);
         m_tabs->addTab(page, tab->GetCaption().toQString());
@@ -170,6 +174,7 @@ void RibbonWidget::buildPage(int index)
     panels->addStretch();
     layout->addWidget(content);
     m_shown[index].built = true;
+    m_shown[index].signature = UiSignature::ofTab(*m_shown[index].tab);
 }
 
 QWidget* RibbonWidget::panelWidget(const CFxUIRibbonPanel& panel)
