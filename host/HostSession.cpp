@@ -2,6 +2,7 @@
 
 #include "HostError.h"
 #include "HostWindow.h"
+#include "ScriptRunner.h"
 #include "TranslationObserver.h"
 #include "UrlRecorder.h"
 
@@ -41,7 +42,10 @@ QString toQt(const OdString& text)
 
 HostSession::HostSession(const HostOptions& options) : m_options(options) {}
 
-HostSession::~HostSession() = default;
+HostSession::~HostSession()
+{
+    *m_alive = false;
+}
 
 QString HostSession::programFolder()
 {
@@ -134,6 +138,8 @@ void HostSession::createMainFrame()
     // reaches them again, with the same window.
     if (!m_mainFrame) {
         m_mainFrame.reset(new HostWindow);
+        m_mainFrame->setCompletionSource(&HostSession::completions);
+        m_modelChanged = true;
         if (m_onCommandLine) {
             QObject::connect(m_mainFrame.get(), &HostWindow::commandLineEntered, m_onCommandLine);
             QObject::connect(m_mainFrame.get(), &HostWindow::closeRequested,
@@ -141,7 +147,7 @@ void HostSession::createMainFrame()
             m_mainFrame->show();
         }
         if (CFxUI* ui = GetFxSystemServices()->GetUI())
-            ui->SetUpdateHandler([this] { refreshWindow(); });
+            ui->SetUpdateHandler([this] { scheduleRefresh(); });
     }
     GetFxSystemServices()->MainFrameCreated(m_mainFrame.get());
     refreshWindow();
@@ -161,8 +167,38 @@ void HostSession::destroyMainFrame()
 
 void HostSession::refreshWindow()
 {
-    if (m_mainFrame && GetFxSystemServices()->GetUI())
-        m_mainFrame->showModel(*GetFxSystemServices()->GetUI());
+    m_refreshPending = false;
+    if (!m_mainFrame)
+        return;
+    const CFxUI* ui = GetFxSystemServices()->GetUI();
+    if (ui && m_modelChanged)
+        m_mainFrame->showModel(*ui);
+    m_modelChanged = false;
+    m_mainFrame->showDocument(ACTIVE_DOCUMENT);
+}
+
+void HostSession::scheduleRefresh()
+{
+    m_modelChanged = true;
+    if (m_refreshPending)
+        return;
+    m_refreshPending = true;
+    std::weak_ptr<bool> alive = m_alive;
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(),
+        [this, alive] {
+            if (!alive.expired() && m_refreshPending)
+                refreshWindow();
+        },
+        Qt::QueuedConnection);
+}
+
+QStringList HostSession::completions()
+{
+    QStringList names = ScriptRunner::statementKeywords();
+    for (const OdEdCommand* command : odedRegCmds()->commands())
+        names << toQt(command->localName()) << toQt(command->globalName());
+    return names;
 }
 
 void HostSession::loadModule(const QString& name)
@@ -258,6 +294,7 @@ void HostSession::screenshot(const QString& path)
         m_mainFrame->setAttribute(Qt::WA_DontShowOnScreen, true);
         m_mainFrame->show();
     }
+    refreshWindow();
     QCoreApplication::processEvents();
     if (!m_mainFrame->grab().save(path, "PNG"))
         throw HostError(QStringLiteral("cannot write %1").arg(path));
@@ -267,6 +304,8 @@ void HostSession::screenshot(const QString& path)
 
 void HostSession::settle()
 {
+    // The refresh asked for during the statement is done once, at its end.
+    m_refreshPending = false;
     QCoreApplication::sendPostedEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     odrxDynamicLinker()->unloadUnreferenced();

@@ -57,8 +57,14 @@ public:
     void settle();
 
     HostWindow* mainFrame() const { return m_mainFrame.get(); }
+    // Shows the model, the active document and the command names in the window now.
     void refreshWindow();
+    // Asks for one refresh at the next turn of the event loop, however often it is asked for
+    // before then: a module that updates the model many times costs one redraw.
+    void scheduleRefresh();
     static QString programFolder();
+    // What the window's command line completes: the statements and the commands' names.
+    static QStringList completions();
     static QString defaultUiProfile();
 
 private:
@@ -76,4 +82,7 @@ private:
     std::function<void(const QString&)> m_onCommandLine;
     std::function<void()> m_onClose;
     ViewerCallListener m_viewerCalls;
+    bool m_refreshPending = false;
+    bool m_modelChanged = true; // the model changed since the window last showed it
+    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
 };

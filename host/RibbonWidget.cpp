@@ -1,11 +1,14 @@
 #include "RibbonWidget.h"
 
+#include "UiSignature.h"
+
 #include <QAction>
 #include <QFrame>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QMenu>
+#include <QSet>
 #include <QTabWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -33,58 +36,151 @@ QIcon commandIcon(const CFxUICommand* command, bool large)
         return QIcon();
     return QIcon((large ? command->GetLargeIcon() : command->GetSmallIcon()).toQString());
 }
+
+// Runs `fill` the first time `menu` is about to open.
+template <class Fill>
+void onFirstShow(QObject* context, QMenu* menu, Fill fill)
+{
+    QObject::connect(menu, &QMenu::aboutToShow, context, [menu, fill] {
+        if (menu->property("filled").toBool())
+            return;
+        menu->setProperty("filled", true);
+        fill();
+    });
+}
+
+// The content of a tab's page, replaced as a whole when the tab changes.
+const char* const kPageContent = "ribbonPageContent";
 } // namespace
 
 RibbonWidget::RibbonWidget(QWidget* parent)
     : QWidget(parent), m_applicationButton(new QToolButton(this)),
       m_systemButton(new QToolButton(this)), m_tabs(new QTabWidget(this))
 {
+    m_applicationButton->setObjectName(QStringLiteral("ApplicationButton"));
     m_applicationButton->setText(QStringLiteral("Q"));
     m_applicationButton->setToolTip(tr("Application menu"));
     m_applicationButton->setPopupMode(QToolButton::InstantPopup);
-    m_applicationButton->setMenu(new QMenu(m_applicationButton));
+    m_systemButton->setObjectName(QStringLiteral("SystemButton"));
     m_systemButton->setText(QStringLiteral("?"));
     m_systemButton->setToolTip(tr("Help and information"));
     m_systemButton->setPopupMode(QToolButton::InstantPopup);
-    m_systemButton->setMenu(new QMenu(m_systemButton));
+    m_tabs->setObjectName(QStringLiteral("RibbonTabs"));
     m_tabs->setCornerWidget(m_applicationButton, Qt::TopLeftCorner);
     m_tabs->setCornerWidget(m_systemButton, Qt::TopRightCorner);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_tabs);
+    connect(m_tabs, &QTabWidget::currentChanged, this, [this](int index) {
+        if (index >= 0 && index < static_cast<int>(m_shown.size()) && !m_shown[index].built)
+            buildPage(index);
+    });
+}
+
+std::vector<const CFxUIRibbonTab*> RibbonWidget::distinctTabs(const CFxUI& ui)
+{
+    std::vector<const CFxUIRibbonTab*> tabs;
+    const CFxUIWorkspace* workspace = ui.FindWorkspace(workspaceName());
+    if (!workspace)
+        return tabs;
+    QSet<QString> seen;
+    for (const CFxUIRibbonTab* tab : workspace->GetRibbonTabs()) {
+        const QString key = tab->GetIdentifier().toQString().toLower();
+        if (seen.contains(key))
+            continue;
+        seen.insert(key);
+        tabs.push_back(tab);
+    }
+    return tabs;
 }
 
 void RibbonWidget::showModel(const CFxUI& ui)
 {
-    const int current = m_tabs->currentIndex();
+    showTabs(ui);
+    resetSystemMenus(ui);
+}
+
+void RibbonWidget::showTabs(const CFxUI& ui)
+{
+    const std::vector<const CFxUIRibbonTab*> tabs = distinctTabs(ui);
+    bool sameTabs = tabs.size() == m_shown.size();
+    for (std::size_t at = 0; sameTabs && at < tabs.size(); ++at)
+        sameTabs = tabs[at] == m_shown[at].tab;
+    if (sameTabs) {
+        // Only the tab in front is compared; the others are built anew when they are shown.
+        for (std::size_t at = 0; at < tabs.size(); ++at) {
+            const int index = static_cast<int>(at);
+            const QString caption = tabs[at]->GetCaption().toQString();
+            if (m_tabs->tabText(index) != caption)
+                m_tabs->setTabText(index, caption);
+            if (index != m_tabs->currentIndex()) {
+                m_shown[at].built = false;
+                continue;
+            }
+            const quint64 signature = UiSignature::ofTab(*tabs[at]);
+            if (signature != m_shown[at].signature || !m_shown[at].built)
+                buildPage(index);
+        }
+        return;
+    }
+    const QString current = m_tabs->currentIndex() >= 0 && !m_shown.empty()
+                                ? m_shown[m_tabs->currentIndex()].tab->GetIdentifier().toQString()
+                                : QString();
+    // A hidden tab bar defers its layout: adding many tabs stays linear.
+    const bool visible = m_tabs->isVisibleTo(this);
+    m_tabs->hide();
+    m_shown.clear();
+    const QSignalBlocker blocker(m_tabs);
     while (m_tabs->count() > 0) {
-        QWidget* page = m_tabs->widget(0);
-        m_tabs->removeTab(0);
+        QWidget* page = m_tabs->widget(m_tabs->count() - 1);
+        m_tabs->removeTab(m_tabs->count() - 1);
+        page->hide();
         page->deleteLater();
     }
-    if (const CFxUIWorkspace* workspace = ui.FindWorkspace(workspaceName())) {
-        for (const CFxUIRibbonTab* tab : workspace->GetRibbonTabs()) {
-            auto* page = new QWidget;
-            auto* layout = new QHBoxLayout(page);
-            for (const CFxUIRibbonPanel* panel : tab->GetPanels())
-                layout->addWidget(panelWidget(*panel));
-            layout->addStretch();
-            m_tabs->addTab(page, tab->GetCaption().toQString());
-        }
+    int currentIndex = 0;
+    for (const CFxUIRibbonTab* tab : tabs) {
+        if (tab->GetIdentifier().toQString().compare(current, Qt::CaseInsensitive) == 0)
+            currentIndex = static_cast<int>(m_shown.size());
+        m_shown.push_back({tab, 0, false});
+        auto* page = new QWidget;
+        new QHBoxLayout(page);
+        m_tabs->addTab(page, tab->GetCaption().toQString());
     }
-    m_tabs->setCurrentIndex(qMax(0, qMin(current, m_tabs->count() - 1)));
-    m_applicationButton->menu()->clear();
-    if (const CFxUIGroup* group = mainGroup(ui)) {
-        for (const CFxUIRibbonSystemMenuItem* item : group->GetApplicationMenu())
-            fillMenu(m_applicationButton->menu(), *item);
+    if (!m_shown.empty()) {
+        m_tabs->setCurrentIndex(currentIndex);
+        buildPage(currentIndex);
     }
-    m_systemButton->menu()->clear();
-    fillMenu(m_systemButton->menu(), *ui.GetRibbonSystemMenu());
+    m_tabs->setVisible(visible);
+}
+
+void RibbonWidget::buildPage(int index)
+{
+    QWidget* page = m_tabs->widget(index);
+    auto* layout = static_cast<QHBoxLayout*>(page->layout());
+    if (auto* old =
+            page->findChild<QWidget*>(QLatin1String(kPageContent), Qt::FindDirectChildrenOnly)) {
+        // A button of the old content may be the one whose click is being handled.
+        old->hide();
+        old->setObjectName(QString());
+        layout->removeWidget(old);
+        old->deleteLater();
+    }
+    auto* content = new QWidget(page);
+    content->setObjectName(QLatin1String(kPageContent));
+    auto* panels = new QHBoxLayout(content);
+    panels->setContentsMargins(0, 0, 0, 0);
+    for (const CFxUIRibbonPanel* panel : m_shown[index].tab->GetPanels())
+        panels->addWidget(panelWidget(*panel));
+    panels->addStretch();
+    layout->addWidget(content);
+    m_shown[index].built = true;
+    m_shown[index].signature = UiSignature::ofTab(*m_shown[index].tab);
 }
 
 QWidget* RibbonWidget::panelWidget(const CFxUIRibbonPanel& panel)
 {
     auto* box = new QGroupBox(panel.GetCaption().toQString());
+    box->setObjectName(panel.GetIdentifier().toQString());
     box->setAlignment(Qt::AlignHCenter);
     auto* rows = new QVBoxLayout(box);
     for (const CFxUIRibbonRow* row : panel.GetRows()) {
@@ -112,11 +208,12 @@ QToolButton* RibbonWidget::buttonWidget(const CFxUIRibbonButton& button)
     widget->setIcon(commandIcon(button.GetCommand(), true));
     widget->setIconSize(QSize(24, 24));
     widget->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    widget->setAutoRaise(true);
     if (const CFxUICommand* command = button.GetCommand())
         widget->setToolTip(command->GetDescription().toQString());
     if (button.GetKind() == CFxUIRibbonButton::kSplit) {
         auto* menu = new QMenu(widget);
-        addSubButtons(menu, button);
+        fillSplitMenuOnShow(menu, button);
         widget->setMenu(menu);
         widget->setPopupMode(QToolButton::MenuButtonPopup);
     }
@@ -124,24 +221,62 @@ QToolButton* RibbonWidget::buttonWidget(const CFxUIRibbonButton& button)
     return widget;
 }
 
-void RibbonWidget::addSubButtons(QMenu* menu, const CFxUIRibbonButton& button)
+void RibbonWidget::fillSplitMenuOnShow(QMenu* menu, const CFxUIRibbonButton& button)
+{
+    onFirstShow(this, menu, [this, menu, &button] { fillSplitMenu(menu, button); });
+}
+
+void RibbonWidget::fillSplitMenu(QMenu* menu, const CFxUIRibbonButton& button)
 {
     for (const CFxUIRibbonButton* sub : button.GetSubButtons()) {
         if (sub->GetKind() == CFxUIRibbonButton::kSeparator) {
             menu->addSeparator();
-        } else if (!hidden(sub->GetText())) {
-            if (sub->GetKind() == CFxUIRibbonButton::kSplit) {
-                addSubButtons(menu->addMenu(sub->GetText().toQString()), *sub);
-                continue;
-            }
+        } else if (hidden(sub->GetText())) {
+            continue;
+        } else if (sub->GetKind() == CFxUIRibbonButton::kSplit) {
+            QMenu* subMenu = menu->addMenu(sub->GetText().toQString());
+            subMenu->setObjectName(sub->GetIdentifier().toQString());
+            fillSplitMenuOnShow(subMenu, *sub);
+        } else {
             QAction* action =
                 menu->addAction(commandIcon(sub->GetCommand(), false), sub->GetText().toQString());
+            action->setObjectName(sub->GetIdentifier().toQString());
             connectCommand(action, sub->GetCommand());
         }
     }
 }
 
-void RibbonWidget::fillMenu(QMenu* menu, const CFxUIRibbonSystemMenuItem& parent)
+void RibbonWidget::resetSystemMenus(const CFxUI& ui)
+{
+    const quint64 signature = UiSignature::ofSystemMenus(ui);
+    if (m_hasSystemMenus && signature == m_systemMenusSignature)
+        return;
+    m_hasSystemMenus = true;
+    m_systemMenusSignature = signature;
+    for (QToolButton* button : {m_applicationButton, m_systemButton}) {
+        if (QMenu* old = button->menu())
+            old->deleteLater();
+        button->setMenu(new QMenu(button));
+    }
+    std::vector<const CFxUIRibbonSystemMenuItem*> roots;
+    if (const CFxUIGroup* group = mainGroup(ui)) {
+        for (const CFxUIRibbonSystemMenuItem* item : group->GetApplicationMenu())
+            roots.push_back(item);
+    }
+    QMenu* application = m_applicationButton->menu();
+    onFirstShow(this, application, [this, application, roots] {
+        for (const CFxUIRibbonSystemMenuItem* root : roots)
+            fillSystemMenu(application, *root);
+    });
+    fillSystemMenuOnShow(m_systemButton->menu(), *ui.GetRibbonSystemMenu());
+}
+
+void RibbonWidget::fillSystemMenuOnShow(QMenu* menu, const CFxUIRibbonSystemMenuItem& parent)
+{
+    onFirstShow(this, menu, [this, menu, &parent] { fillSystemMenu(menu, parent); });
+}
+
+void RibbonWidget::fillSystemMenu(QMenu* menu, const CFxUIRibbonSystemMenuItem& parent)
 {
     for (const CFxUIRibbonSystemMenuItem* item : parent.GetSubItems()) {
         if (item->IsSeparator()) {
@@ -149,10 +284,13 @@ void RibbonWidget::fillMenu(QMenu* menu, const CFxUIRibbonSystemMenuItem& parent
         } else if (hidden(item->GetText())) {
             continue;
         } else if (item->GetSubItems().GetCount() > 0) {
-            fillMenu(menu->addMenu(item->GetText().toQString()), *item);
+            QMenu* subMenu = menu->addMenu(item->GetText().toQString());
+            subMenu->setObjectName(item->GetIdentifier().toQString());
+            fillSystemMenuOnShow(subMenu, *item);
         } else {
             QAction* action = menu->addAction(commandIcon(item->GetCommand(), false),
                                               item->GetText().toQString());
+            action->setObjectName(item->GetIdentifier().toQString());
             connectCommand(action, item->GetCommand());
         }
     }

@@ -2,11 +2,14 @@
 
 #include <QWidget>
 
+#include <vector>
+
 class CFxUI;
 class CFxUICommand;
 class CFxUIRibbonButton;
 class CFxUIRibbonPanel;
 class CFxUIRibbonSystemMenuItem;
+class CFxUIRibbonTab;
 class QMenu;
 class QTabWidget;
 class QToolButton;
@@ -14,6 +17,11 @@ class QToolButton;
 // The host window's ribbon: the application button with the application menu, the tabs of
 // the current workspace with their panels, rows and buttons, and the system menu at the right.
 // Entries whose text starts with "~" are hidden, as the host's ribbon hides them.
+//
+// The ribbon follows the model by the change: a tab's page is built when it is first shown
+// and built again only when what it shows changed; the lists of split buttons and the
+// sub-menus of the application and system menus are filled when they open, one level at a
+// time, so entries nested to any depth cost only what the user opens.
 class RibbonWidget : public QWidget
 {
     Q_OBJECT
@@ -25,18 +33,36 @@ public:
 
     // The workspace whose tabs are shown.
     static const char* workspaceName() { return "Drafting and Annotation"; }
+    // The tabs shown of a workspace's list: each identifier once (letter case does not
+    // matter), the first listed, in the list's order.
+    static std::vector<const CFxUIRibbonTab*> distinctTabs(const CFxUI& ui);
 
 signals:
     void macroTriggered(const QString& macro);
 
 private:
+    struct ShownTab
+    {
+        const CFxUIRibbonTab* tab;
+        quint64 signature;
+        bool built;
+    };
+
+    void showTabs(const CFxUI& ui);
+    void buildPage(int index);
     QWidget* panelWidget(const CFxUIRibbonPanel& panel);
     QToolButton* buttonWidget(const CFxUIRibbonButton& button);
-    void fillMenu(QMenu* menu, const CFxUIRibbonSystemMenuItem& parent);
-    void addSubButtons(QMenu* menu, const CFxUIRibbonButton& button);
+    void fillSplitMenuOnShow(QMenu* menu, const CFxUIRibbonButton& button);
+    void fillSplitMenu(QMenu* menu, const CFxUIRibbonButton& button);
+    void fillSystemMenuOnShow(QMenu* menu, const CFxUIRibbonSystemMenuItem& parent);
+    void fillSystemMenu(QMenu* menu, const CFxUIRibbonSystemMenuItem& parent);
+    void resetSystemMenus(const CFxUI& ui);
     void connectCommand(QObject* trigger, const CFxUICommand* command);
 
     QToolButton* m_applicationButton;
     QToolButton* m_systemButton;
     QTabWidget* m_tabs;
+    std::vector<ShownTab> m_shown;
+    quint64 m_systemMenusSignature = 0;
+    bool m_hasSystemMenus = false;
 };

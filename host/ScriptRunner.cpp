@@ -35,6 +35,14 @@ bool ScriptRunner::run(const QString& script, const QDir& baseFolder)
     return true;
 }
 
+QStringList ScriptRunner::statementKeywords()
+{
+    return {QStringLiteral("mainframe"),  QStringLiteral("load"),     QStringLiteral("unload"),
+            QStringLiteral("open"),       QStringLiteral("activate"), QStringLiteral("close"),
+            QStringLiteral("ui"),         QStringLiteral("commands"), QStringLiteral("screenshot"),
+            QStringLiteral("wait-events")};
+}
+
 void ScriptRunner::execute(const ScriptStatement& statement, const QDir& baseFolder)
 {
     const QString keyword = statement.words.first();

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QString>
+#include <QStringList>
 
 class EventPrinter;
 class HostSession;
@@ -18,6 +19,8 @@ public:
 
     // Returns false when the script could not be run to its end.
     bool run(const QString& script, const QDir& baseFolder);
+    // The first words of the host's own statements.
+    static QStringList statementKeywords();
 
 private:
     void execute(const ScriptStatement& statement, const QDir& baseFolder);

@@ -1,0 +1,320 @@
+// The host window's parts in this process, on the offscreen platform: what the ribbon shows
+// of the model and how it follows it, what the canvas makes of a drawing, and the command line.
+#include "CommandLineEdit.h"
+#include "DrawingScene.h"
+#include "RibbonWidget.h"
+
+#include <QFile>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+
+#include <gtest/gtest.h>
+
+#include <CFxUI.h>
+#include <OdDbDatabase.h>
+
+#include <memory>
+
+namespace {
+// A model with the workspace the ribbon shows, and a row to put buttons in.
+class RibbonModel
+{
+public:
+    RibbonModel() : workspace(ui.CreateWorkspace(RibbonWidget::workspaceName()))
+    {
+        ui.GetWorkspaces().Append(workspace);
+    }
+
+    CFxUIRibbonTab* addTab(const QString& identifier, const QString& caption)
+    {
+        CFxUIRibbonTab* tab = ui.CreateRibbonTab(CFxString(identifier));
+        tab->SetCaption(CFxString(caption));
+        workspace->GetRibbonTabs().Append(tab);
+        return tab;
+    }
+
+    CFxUIRibbonRow* addRow(CFxUIRibbonTab* tab)
+    {
+        CFxUIRibbonPanel* panel = ui.CreateRibbonPanel(CFxString(QStringLiteral("P")));
+        CFxUIRibbonRow* row = ui.CreateRibbonRow(CFxString(QStringLiteral("R")));
+        panel->GetRows().Append(row);
+        tab->GetPanels().Append(panel);
+        return row;
+    }
+
+    CFxUIRibbonButton* button(int kind, const QString& identifier)
+    {
+        CFxUIRibbonButton* made = ui.CreateRibbonButton(kind, CFxString(identifier));
+        made->SetText(CFxString(identifier));
+        return made;
+    }
+
+    CFxUI ui;
+    CFxUIWorkspace* workspace;
+};
+
+QStringList tabTexts(const RibbonWidget& ribbon)
+{
+    const auto* tabs = ribbon.findChild<QTabWidget*>(QStringLiteral("RibbonTabs"));
+    QStringList texts;
+    for (int at = 0; at < tabs->count(); ++at)
+        texts << tabs->tabText(at);
+    return texts;
+}
+
+// The menu that `owner` opens, filled as when it is about to show.
+QMenu* opened(QMenu* menu)
+{
+    emit menu->aboutToShow();
+    return menu;
+}
+} // namespace
+
+TEST(HostRibbon, ShowsEachWorkspaceTabOnceInFirstListedOrder)
+{
+    RibbonModel model;
+    model.addTab(QStringLiteral("ID_Home"), QStringLiteral("Home"));
+    model.addTab(QStringLiteral("ID_AddIns"), QStringLiteral("Add-Ins"));
+    model.addTab(QStringLiteral("ID_Home"), QStringLiteral("Home again"));
+    // A tab under a known identifier in another letter case is the same tab.
+    model.addTab(QStringLiteral("id_addins"), QStringLiteral("Add-Ins again"));
+    model.addTab(QStringLiteral("ID_View"), QStringLiteral("View"));
+    RibbonWidget ribbon;
+    ribbon.showModel(model.ui);
+    EXPECT_EQ(tabTexts(ribbon), QStringList({"Home", "Add-Ins", "View"}));
+    // Shown anew after a sibling's unload and load cycle: still once each.
+    model.addTab(QStringLiteral("ID_AddIns"), QStringLiteral("Add-Ins"));
+    ribbon.showModel(model.ui);
+    EXPECT_EQ(tabTexts(ribbon), QStringList({"Home", "Add-Ins", "View"}));
+}
+
+TEST(HostRibbon, RedrawsOnlyTheTabThatChanged)
+{
+    RibbonModel model;
+    CFxUIRibbonRow* row = model.addRow(model.addTab(QStringLiteral("T1"), QStringLiteral("One")));
+    CFxUIRibbonButton* first = model.button(CFxUIRibbonButton::kCommand, QStringLiteral("ID_A"));
+    row->GetButtons().Append(first);
+    CFxUIRibbonRow* other = model.addRow(model.addTab(QStringLiteral("T2"), QStringLiteral("Two")));
+    RibbonWidget ribbon;
+    ribbon.showModel(model.ui);
+    QPointer<QToolButton> shown = ribbon.findChild<QToolButton*>(QStringLiteral("ID_A"));
+    ASSERT_TRUE(shown);
+
+    other->GetButtons().Append(model.button(CFxUIRibbonButton::kCommand, QStringLiteral("ID_B")));
+    ribbon.showModel(model.ui);
+    EXPECT_EQ(ribbon.findChild<QToolButton*>(QStringLiteral("ID_A")), shown.data())
+        << "a tab that did not change keeps its widgets";
+    EXPECT_EQ(ribbon.findChild<QToolButton*>(QStringLiteral("ID_B")), nullptr)
+        << "a tab that is not in front is built when it is shown";
+
+    first->SetText(CFxString(QStringLiteral("Renamed")));
+    ribbon.showModel(model.ui);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(shown.isNull());
+    const auto* renamed = ribbon.findChild<QToolButton*>(QStringLiteral("ID_A"));
+    ASSERT_NE(renamed, nullptr);
+    EXPECT_EQ(renamed->text(), "Renamed");
+
+    ribbon.findChild<QTabWidget*>(QStringLiteral("RibbonTabs"))->setCurrentIndex(1);
+    EXPECT_NE(ribbon.findChild<QToolButton*>(QStringLiteral("ID_B")), nullptr);
+}
+
+TEST(HostRibbon, SplitButtonsNestedVeryDeepAreShownLevelByLevel)
+{
+    // Deeper than a widget per level, or a recursion per level, could ever draw.
+    constexpr int depth = 100000;
+    RibbonModel model;
+    CFxUIRibbonRow* row = model.addRow(model.addTab(QStringLiteral("T"), QStringLiteral("T")));
+    CFxUIRibbonButton* top = model.button(CFxUIRibbonButton::kSplit, QStringLiteral("L0"));
+    row->GetButtons().Append(top);
+    CFxUIRibbonButton* parent = top;
+    for (int level = 1; level <= depth; ++level) {
+        auto* sub =
+            model.button(level == depth ? CFxUIRibbonButton::kCommand : CFxUIRibbonButton::kSplit,
+                         QStringLiteral("L%1").arg(level));
+        parent->GetSubButtons().Append(sub);
+        if (level % 2 == 0)
+            parent->GetSubButtons().Append(model.button(CFxUIRibbonButton::kSeparator, QString()));
+        parent = sub;
+    }
+    RibbonWidget ribbon;
+    ribbon.showModel(model.ui);
+    auto* button = ribbon.findChild<QToolButton*>(QStringLiteral("L0"));
+    ASSERT_NE(button, nullptr);
+    ASSERT_NE(button->menu(), nullptr);
+    EXPECT_TRUE(button->menu()->isEmpty()) << "nothing is built before the list opens";
+    QMenu* menu = opened(button->menu());
+    for (int level = 1; level <= 50; ++level) {
+        const QList<QAction*> actions = menu->actions();
+        ASSERT_EQ(actions.size(), level % 2 == 0 ? 2 : 1) << "level " << level;
+        EXPECT_EQ(actions.first()->text(), QStringLiteral("L%1").arg(level));
+        if (level % 2 == 0)
+            EXPECT_TRUE(actions.last()->isSeparator()) << "level " << level;
+        ASSERT_NE(actions.first()->menu(), nullptr) << "level " << level;
+        menu = opened(actions.first()->menu());
+    }
+}
+
+namespace {
+// The text of an ASCII DXF drawing with these blocks and entities, each given as groups
+// "code\nvalue\n...".
+QByteArray dxf(const QByteArray& blocks, const QByteArray& entities)
+{
+    return "0\nSECTION\n2\nBLOCKS\n" + blocks + "0\nENDSEC\n0\nSECTION\n2\nENTITIES\n" + entities +
+           "0\nENDSEC\n0\nEOF\n";
+}
+
+QByteArray block(const QByteArray& name, const QByteArray& entities, const QByteArray& path = {})
+{
+    return "0\nBLOCK\n2\n" + name + "\n70\n" + (path.isEmpty() ? "0" : "4") + "\n10\n0\n20\n0\n" +
+           (path.isEmpty() ? QByteArray() : "1\n" + path + "\n") + entities + "0\nENDBLK\n";
+}
+
+QByteArray line(double x1, double y1, double x2, double y2)
+{
+    return QStringLiteral("0\nLINE\n10\n%1\n20\n%2\n11\n%3\n21\n%4\n")
+        .arg(x1)
+        .arg(y1)
+        .arg(x2)
+        .arg(y2)
+        .toLatin1();
+}
+
+QByteArray insert(const QByteArray& name, double x, double y, double scale = 1, double degrees = 0)
+{
+    return QStringLiteral("0\nINSERT\n2\n%1\n10\n%2\n20\n%3\n41\n%4\n42\n%4\n50\n%5\n")
+        .arg(QString::fromLatin1(name))
+        .arg(x)
+        .arg(y)
+        .arg(scale)
+        .arg(degrees)
+        .toLatin1();
+}
+
+class HostCanvasScene : public ::testing::Test
+{
+protected:
+    std::shared_ptr<const DrawingScene> sceneOf(const QString& name, const QByteArray& content)
+    {
+        write(name, content);
+        return DrawingScene::of(*OdDbDatabase::readFile(OdString(path(name).toStdWString())));
+    }
+    void write(const QString& name, const QByteArray& content)
+    {
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+    QString path(const QString& name) const { return m_folder.filePath(name); }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+void expectNear(const QPointF& actual, const QPointF& expected)
+{
+    EXPECT_NEAR(actual.x(), expected.x(), 1e-9) << "x";
+    EXPECT_NEAR(actual.y(), expected.y(), 1e-9) << "y";
+}
+} // namespace
+
+TEST_F(HostCanvasScene, DrawsEachKindAndCountsWhatItDoesNotDraw)
+{
+    const QByteArray entities =
+        line(0, 0, 10, 0) +
+        "0\nLWPOLYLINE\n70\n1\n10\n0\n20\n0\n10\n4\n20\n0\n10\n4\n20\n3\n"
+        "0\nPOLYLINE\n70\n0\n0\nVERTEX\n10\n1\n20\n1\n0\nVERTEX\n10\n2\n20\n5\n0\nSEQEND\n"
+        "0\nCIRCLE\n10\n5\n20\n5\n40\n2\n"
+        "0\nARC\n10\n0\n20\n0\n40\n1\n50\n350\n51\n10\n"
+        "0\nTEXT\n10\n1\n20\n2\n40\n0.5\n1\nROOM\n"
+        "0\nHATCH\n2\nSOLID\n0\nHATCH\n2\nANSI31\n0\nELLIPSE\n10\n0\n20\n0\n";
+    const auto scene = sceneOf(QStringLiteral("kinds.dxf"), dxf({}, entities));
+    EXPECT_EQ(scene->lines().size(), 1);
+    ASSERT_EQ(scene->polylines().size(), 2);
+    EXPECT_EQ(scene->polylines()[0].size(), 4) << "a closed polyline comes back to its start";
+    EXPECT_EQ(scene->polylines()[0].last(), QPointF(0, 0));
+    EXPECT_EQ(scene->polylines()[1], QPolygonF(QVector<QPointF>{QPointF(1, 1), QPointF(2, 5)}));
+    ASSERT_EQ(scene->circles().size(), 1);
+    ASSERT_EQ(scene->arcs().size(), 1);
+    EXPECT_DOUBLE_EQ(scene->arcs()[0].spanDegrees, 20) << "an arc across 0 degrees";
+    ASSERT_EQ(scene->texts().size(), 1);
+    EXPECT_EQ(scene->texts()[0].text, "ROOM");
+    EXPECT_EQ(scene->drawnEntities(), 6);
+    EXPECT_EQ(scene->undrawnKinds(), (QMap<QString, int>{{"HATCH", 2}, {"ELLIPSE", 1}}));
+    EXPECT_EQ(scene->extents(), QRectF(QPointF(-1, -1), QPointF(10, 7)));
+}
+
+TEST_F(HostCanvasScene, BlockReferencesAreDrawnPlacedScaledAndTurned)
+{
+    const QByteArray blocks = block("UNIT", line(0, 0, 1, 0)) +
+                              block("PAIR", insert("UNIT", 0, 0) + insert("UNIT", 0, 1));
+    const auto scene = sceneOf(QStringLiteral("blocks.dxf"),
+                               dxf(blocks, insert("PAIR", 10, 20, 2, 90) + insert("NONE", 0, 0)));
+    ASSERT_EQ(scene->lines().size(), 2);
+    // The unit line turned a quarter to point up, twice as long, and its copy one unit up in
+    // the block, two to the left once turned.
+    expectNear(scene->lines()[0].p1(), QPointF(8, 20));
+    expectNear(scene->lines()[0].p2(), QPointF(8, 22));
+    expectNear(scene->lines()[1].p1(), QPointF(10, 20));
+    expectNear(scene->lines()[1].p2(), QPointF(10, 22));
+    EXPECT_EQ(scene->undrawnKinds().value("INSERT (no such block)"), 1);
+}
+
+TEST_F(HostCanvasScene, BlocksThatReferToEachOtherEndAtADepth)
+{
+    const QByteArray blocks =
+        block("A", line(0, 0, 1, 1) + insert("B", 0, 0)) + block("B", insert("A", 0, 0));
+    const auto scene = sceneOf(QStringLiteral("cycle.dxf"), dxf(blocks, insert("A", 0, 0)));
+    EXPECT_GT(scene->lines().size(), 1);
+    EXPECT_EQ(scene->undrawnKinds().value("INSERT (nested too deep or too many)"), 1);
+}
+
+TEST_F(HostCanvasScene, ReferencedDrawingsAreDrawnFromTheirFilesOrFramedByName)
+{
+    write(QStringLiteral("part.dxf"), dxf({}, line(0, 0, 3, 0)));
+    const QByteArray blocks =
+        block("PART", {}, "sub\\..\\part.dxf") + block("GONE", {}, "elsewhere/missing.dxf");
+    const auto scene = sceneOf(QStringLiteral("main.dxf"),
+                               dxf(blocks, insert("PART", 5, 5) + insert("GONE", 0, 0)));
+    ASSERT_EQ(scene->lines().size(), 1);
+    expectNear(scene->lines()[0].p2(), QPointF(8, 5));
+    ASSERT_EQ(scene->placeholders().size(), 1);
+    EXPECT_EQ(scene->placeholders()[0].name, "GONE");
+    EXPECT_EQ(scene->placeholders()[0].frame.topLeft(), QPointF(0, 0));
+    EXPECT_TRUE(scene->extents().contains(scene->placeholders()[0].frame));
+}
+
+TEST(HostCommandLine, RecallsHistoryAndCompletesNames)
+{
+    CommandLineEdit line;
+    line.setCompletionSource([] { return QStringList({"SAMPLELOAD", "SAMPLEUNLOAD", "open"}); });
+    QSignalSpy entered(&line, &CommandLineEdit::lineEntered);
+    for (const char* typed : {"open a.dxf", "Home", "Home"}) {
+        QTest::keyClicks(&line, typed);
+        QTest::keyClick(&line, Qt::Key_Return);
+    }
+    EXPECT_EQ(entered.size(), 3);
+    EXPECT_EQ(line.history(), QStringList({"open a.dxf", "Home"})) << "a repeat is kept once";
+    QTest::keyClicks(&line, "draft");
+    const QStringList walked = [&] {
+        QStringList seen;
+        for (Qt::Key key : {Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_Down, Qt::Key_Down}) {
+            QTest::keyClick(&line, key);
+            seen << line.text();
+        }
+        return seen;
+    }();
+    EXPECT_EQ(walked, QStringList({"Home", "open a.dxf", "open a.dxf", "Home", "draft"}));
+
+    line.clear();
+    QTest::keyClicks(&line, "samp");
+    QTest::keyClick(&line, Qt::Key_Tab);
+    EXPECT_EQ(line.text(), "SAMPLE") << "as far as the names agree";
+    QTest::keyClicks(&line, "u");
+    QTest::keyClick(&line, Qt::Key_Tab);
+    EXPECT_EQ(line.text(), "SAMPLEUNLOAD ");
+}
