@@ -35,12 +35,26 @@ bool CompanionDock::add(const QString& title, ContentFactory makeContent)
         auto* created = new QDockWidget(title, window);
         created->setObjectName(m_objectName);
         created->setProperty(kCompanionProperty, true);
-        created->setWidget(makeContent());
         created->setMinimumWidth(kMinimumWidth);
+        giveContent(window, created, makeContent);
         placeBesideOtherCompanions(window, created);
         m_dock = created;
     }
     return show();
+}
+
+void CompanionDock::giveContent(QMainWindow* window, QDockWidget* dock, ContentFactory makeContent)
+{
+    if (window->isVisible()) {
+        dock->setWidget(makeContent());
+        return;
+    }
+    // A window that is not on screen (a script's, or one still being set up) costs no
+    // companion its widgets: the view is built when the dock first shows.
+    QObject::connect(dock, &QDockWidget::visibilityChanged, dock, [dock, makeContent](bool shown) {
+        if (shown && !dock->widget())
+            dock->setWidget(makeContent());
+    });
 }
 
 void CompanionDock::placeBesideOtherCompanions(QMainWindow* window, QDockWidget* dock)

@@ -21,8 +21,9 @@ public:
     static QMainWindow* mainWindow();
 
     // Puts the dock, with the content that `makeContent` builds, into the main window and
-    // brings it to the front; a dock that already stands in this window is kept. False without a
-    // main window.
+    // brings it to the front; a dock that already stands in this window is kept. The content is
+    // built at once when the window is on screen, otherwise when the dock first shows (until
+    // then dock()->widget() is null). False without a main window.
     bool add(const QString& title, ContentFactory makeContent);
     // Shows the dock and brings it to the front; false when it does not stand in the window.
     bool show();
@@ -33,6 +34,7 @@ public:
     QDockWidget* dock() const;
 
 private:
+    static void giveContent(QMainWindow* window, QDockWidget* dock, ContentFactory makeContent);
     static void placeBesideOtherCompanions(QMainWindow* window, QDockWidget* dock);
 
     QString m_objectName;

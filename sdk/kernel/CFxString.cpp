@@ -40,6 +40,18 @@ bool CFxString::equalNoCase(const CFxString& other) const
     }
 }
 
+std::wstring CFxString::foldedKey() const
+{
+    if constexpr (sizeof(wchar_t) == sizeof(char32_t)) {
+        std::wstring folded(m_text);
+        for (wchar_t& c : folded)
+            c = static_cast<wchar_t>(QChar::toCaseFolded(static_cast<uint>(c)));
+        return folded;
+    } else {
+        return toQString().toCaseFolded().toStdWString();
+    }
+}
+
 int CFxString::compare(const CFxString& other) const
 {
     return m_text.compare(other.m_text);

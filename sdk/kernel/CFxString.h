@@ -26,6 +26,9 @@ public:
 
     // Equal without regard to letter case.
     bool equalNoCase(const CFxString& other) const;
+    // The text with every character case-folded: two strings are equalNoCase exactly when
+    // their folded keys are equal, so it keys look-ups that ignore letter case.
+    std::wstring foldedKey() const;
     // Exact comparison: negative, zero or positive, as std::wstring::compare.
     int compare(const CFxString& other) const;
 

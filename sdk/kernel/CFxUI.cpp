@@ -2,19 +2,7 @@
 
 #include <OdEventLog.h>
 
-#include <algorithm>
-
-namespace {
-template <class T>
-T* findByIdentifier(const CFxUIList<T>& list, const CFxString& identifier)
-{
-    for (T* item : list) {
-        if (item->GetIdentifier().equalNoCase(identifier))
-            return item;
-    }
-    return nullptr;
-}
-} // namespace
+#include <vector>
 
 CFxUI::CFxUI() : m_systemMenu(make<CFxUIRibbonSystemMenuItem>(CFxString("ID_RibbonSystemMenu"))) {}
 
@@ -25,7 +13,7 @@ T* CFxUI::make(Args&&... args)
 {
     auto object = std::make_unique<T>(std::forward<Args>(args)...);
     T* raw = object.get();
-    m_objects.push_back(std::move(object));
+    m_objects.emplace(raw, std::move(object));
     return raw;
 }
 
@@ -36,12 +24,14 @@ CFxUIGroupIterator* CFxUI::NewGroupIterator() const
 
 CFxUIWorkspace* CFxUI::FindWorkspace(const CFxString& name) const
 {
-    return findByIdentifier(m_workspaces, name);
+    return m_workspaces.FindFirst(name);
 }
 
 CFxUIGroup* CFxUI::CreateMenuGroup(const CFxString& identifier)
 {
-    return make<CFxUIGroup>(identifier);
+    CFxUIGroup* group = make<CFxUIGroup>(identifier);
+    m_madeGroups.push_back(group);
+    return group;
 }
 
 CFxUIPullDownMenu* CFxUI::CreatePullDownMenu(const CFxString& identifier)
@@ -110,25 +100,24 @@ CFxUICommand* CFxUI::CreateCommand(const CFxString& identifier, CFxUIGroup* owne
 CFxUICommand* CFxUI::FindCommand(const CFxString& groupIdentifier,
                                  const CFxString& commandIdentifier) const
 {
-    const CFxUIGroup* group = findByIdentifier(m_groups, groupIdentifier);
-    return group ? findByIdentifier(group->GetCommands(), commandIdentifier) : nullptr;
+    const CFxUIGroup* group = m_groups.FindFirst(groupIdentifier);
+    return group ? group->GetCommands().FindFirst(commandIdentifier) : nullptr;
 }
 
 void CFxUI::DeleteCommand(CFxUICommand* command)
 {
-    const auto owned =
-        std::find_if(m_objects.begin(), m_objects.end(),
-                     [command](const auto& object) { return object.get() == command; });
+    const auto owned = m_objects.find(command);
     if (!command || owned == m_objects.end())
         return;
-    for (const auto& object : m_objects) {
-        if (auto* group = dynamic_cast<CFxUIGroup*>(object.get()))
-            group->GetCommands().Remove(command);
-        else if (auto* button = dynamic_cast<CFxUIRibbonButton*>(object.get());
-                 button && button->GetCommand() == command)
+    for (CFxUIGroup* group : m_madeGroups)
+        group->GetCommands().Remove(command);
+    // A copy: detaching a holder takes it out of the command's set.
+    const std::vector<CFxUIObject*> holders(command->GetHolders().begin(),
+                                            command->GetHolders().end());
+    for (CFxUIObject* holder : holders) {
+        if (auto* button = dynamic_cast<CFxUIRibbonButton*>(holder))
             button->AttachCommand(nullptr);
-        else if (auto* item = dynamic_cast<CFxUIRibbonSystemMenuItem*>(object.get());
-                 item && item->GetCommand() == command)
+        else if (auto* item = dynamic_cast<CFxUIRibbonSystemMenuItem*>(holder))
             item->AttachCommand(nullptr);
     }
     m_objects.erase(owned);

@@ -12,13 +12,16 @@
 
 #include <functional>
 #include <memory>
+#include <unordered_map>
 #include <vector>
 
 // The host's user-interface model: menu groups with their pull-down menus, ribbon tabs,
 // panels, rows and buttons, commands and application menus; the workspaces; and the ribbon's
 // system menu. It owns every object it creates: an object removed from a list stays alive
-// until the model goes, so a stale pointer never dangles. Identifiers are matched without
-// regard to letter case.
+// until the model goes, so a stale pointer never dangles (a deleted command excepted).
+// Identifiers are matched without regard to letter case. What a call costs does not depend on
+// how many objects the model ever made: commands are found through their list's index, and a
+// command being deleted knows what holds it.
 class FX_KERNEL_EXPORT CFxUI
 {
 public:
@@ -70,7 +73,9 @@ private:
     template <class T, class... Args>
     T* make(Args&&... args);
 
-    std::vector<std::unique_ptr<CFxUIObject>> m_objects;
+    std::unordered_map<const CFxUIObject*, std::unique_ptr<CFxUIObject>> m_objects;
+    // Every group made, in or out of the model, whose command lists a deleted command leaves.
+    std::vector<CFxUIGroup*> m_madeGroups;
     CFxUIList<CFxUIGroup> m_groups;
     CFxUIList<CFxUIWorkspace> m_workspaces;
     CFxUIGroup* m_referenceGroup = nullptr;

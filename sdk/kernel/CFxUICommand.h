@@ -2,6 +2,8 @@
 
 #include "CFxUIObject.h"
 
+#include <unordered_set>
+
 class QWidget;
 
 // A user-interface command: what a button or a menu entry runs (its macro, a command line),
@@ -32,6 +34,12 @@ public:
     QWidget* GetExtendedTooltip() const { return m_extendedTooltip; }
     void SetExtendedTooltip(QWidget* tooltip) { m_extendedTooltip = tooltip; }
 
+    // The buttons and menu entries that have the command attached, kept by their
+    // AttachCommand, so that deleting the command visits those alone.
+    const std::unordered_set<CFxUIObject*>& GetHolders() const { return m_holders; }
+    void AddHolder(CFxUIObject* holder) { m_holders.insert(holder); }
+    void RemoveHolder(CFxUIObject* holder) { m_holders.erase(holder); }
+
 private:
     CFxString m_macro;
     CFxString m_actionId;
@@ -40,4 +48,5 @@ private:
     CFxString m_smallIcon[2];
     CFxString m_largeIcon[2];
     QWidget* m_extendedTooltip = nullptr;
+    std::unordered_set<CFxUIObject*> m_holders;
 };

@@ -3,6 +3,8 @@
 #include "CFxString.h"
 #include "FxKernelExport.h"
 
+#include <cstdint>
+
 // Base of every object of the host's user-interface model: it has an identifier and is owned
 // by the CFxUI that created it.
 class FX_KERNEL_EXPORT CFxUIObject
@@ -14,7 +16,10 @@ public:
     CFxUIObject& operator=(const CFxUIObject&) = delete;
 
     const CFxString& GetIdentifier() const { return m_identifier; }
-    void SetIdentifier(const CFxString& identifier) { m_identifier = identifier; }
+    // Renaming an object makes every list's identifier index stale (see CFxUIList).
+    void SetIdentifier(const CFxString& identifier);
+    // How many times any object of the model was renamed in this process.
+    static std::uint64_t identifierChanges();
 
 private:
     CFxString m_identifier;

@@ -25,7 +25,7 @@ public:
     const CFxString& GetText() const { return m_text; }
     void SetText(const CFxString& text) { m_text = text; }
     CFxUICommand* GetCommand() const { return m_command; }
-    void AttachCommand(CFxUICommand* command) { m_command = command; }
+    void AttachCommand(CFxUICommand* command);
 
     // How the button shows itself: 1 a large button with its text under the icon, 3 a small
     // button with its text beside the icon (the form of entries in a split button's list).

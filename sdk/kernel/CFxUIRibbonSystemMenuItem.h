@@ -19,7 +19,7 @@ public:
     const CFxString& GetText() const { return m_text; }
     void SetText(const CFxString& text) { m_text = text; }
     CFxUICommand* GetCommand() const { return m_command; }
-    void AttachCommand(CFxUICommand* command) { m_command = command; }
+    void AttachCommand(CFxUICommand* command);
 
     CFxUIList<CFxUIRibbonSystemMenuItem>& GetSubItems() { return m_subItems; }
     const CFxUIList<CFxUIRibbonSystemMenuItem>& GetSubItems() const { return m_subItems; }

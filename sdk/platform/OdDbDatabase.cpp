@@ -1,5 +1,6 @@
 #include "OdDbDatabase.h"
 
+#include "OdDxfGroupStream.h"
 #include "OdDxfReader.h"
 #include "OdDxfWriter.h"
 #include "OdError.h"
@@ -96,6 +97,37 @@ OdDbDatabasePtr OdDbDatabase::readFile(const OdString& path)
     std::vector<OdDxfGroup> groups = OdDxfReader::read(content, absolute);
     return OdDbDatabasePtr(new OdRxObjectImpl<OdDbDatabase>(toOd(absolute), std::move(groups),
                                                             OdDxfReader::lineEnding(content)));
+}
+
+OdDbDatabasePtr OdDbDatabase::readReferences(const OdString& path)
+{
+    const QString absolute = QFileInfo(toQt(path)).absoluteFilePath();
+    OdStreamBufPtr stream = odSystemServices()->createFile(
+        toOd(absolute), Oda::kFileRead, Oda::kShareDenyWrite, Oda::kOpenExisting);
+    OdDxfGroupStream reader(*stream, absolute);
+    std::vector<OdDxfGroup> kept{{0, "SECTION"}, {2, "BLOCKS"}};
+    OdDxfGroup group(0, QByteArray());
+    bool sectionNamed = true;
+    bool inBlocks = false;
+    bool inBlockHeader = false;
+    while (reader.next(group)) {
+        if (!sectionNamed) {
+            sectionNamed = true;
+            inBlocks = group.code() == 2 && group.value().trimmed() == "BLOCKS";
+        }
+        if (group.code() == 0) {
+            if (inBlocks && group.isStart("ENDSEC"))
+                break;
+            sectionNamed = !group.isStart("SECTION");
+            inBlockHeader = inBlocks && group.isStart("BLOCK");
+        }
+        if (inBlockHeader)
+            kept.push_back(std::move(group));
+    }
+    kept.emplace_back(0, "ENDSEC");
+    kept.emplace_back(0, "EOF");
+    return OdDbDatabasePtr(
+        new OdRxObjectImpl<OdDbDatabase>(toOd(absolute), std::move(kept), QByteArray("\n")));
 }
 
 OdDbDatabasePtr OdDbDatabase::cast(const OdRxObject* object)

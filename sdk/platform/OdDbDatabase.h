@@ -25,6 +25,11 @@ public:
     // Reads the drawing at `path` through the system services. Throws OdError, with the
     // reason, when the file cannot be read or is not an ASCII DXF drawing.
     static OdDbDatabasePtr readFile(const OdString& path);
+    // Reads, of the drawing at `path`, only what names its external references: the file is
+    // read as a stream up to the end of its BLOCKS section, and the database holds the block
+    // headers alone (writing it writes those). Damage after that section goes unseen; damage
+    // before it throws OdError as readFile does.
+    static OdDbDatabasePtr readReferences(const OdString& path);
     // `object` as a database; null when it is none.
     static OdDbDatabasePtr cast(const OdRxObject* object);
 

@@ -9,6 +9,7 @@
 #include <QSet>
 
 #include <map>
+#include <vector>
 
 namespace {
 QString toQt(const OdString& text)
@@ -34,18 +35,21 @@ QString drawingKey(const QString& path)
     return canonical.isEmpty() ? path : canonical;
 }
 
+// Of a referenced drawing only its references are read: a tree of large drawings costs what
+// their block tables cost.
 OdDbDatabasePtr readIfPossible(const QString& path)
 {
     if (!QFileInfo(path).isFile())
         return {};
     try {
-        return OdDbDatabase::readFile(OdString(path.toStdWString()));
+        return OdDbDatabase::readReferences(OdString(path.toStdWString()));
     } catch (const OdError&) {
         return {};
     }
 }
 
-// Walks the references depth first, making one node per drawing.
+// Walks the references depth first, making one node per drawing. The walk keeps its own
+// stack: a chain of references as long as the disk holds must not exhaust the thread's.
 class XrefGraphBuilder
 {
 public:
@@ -56,17 +60,33 @@ public:
         auto* node = new OdDbXrefGraphNode(OdDbObjectId(), OdDbDatabasePtr(root));
         m_graph.addNode(node);
         const QString file = toQt(root->getFilename());
-        follow(node, file.isEmpty() ? QString() : drawingKey(file));
+        enter(node, file.isEmpty() ? QString() : drawingKey(file));
+        while (!m_path.empty()) {
+            Following& top = m_path.back();
+            if (top.next >= top.node->database()->numBlockRecords()) {
+                m_following.remove(top.key);
+                m_path.pop_back();
+                continue;
+            }
+            OdDbXrefGraphNode* node = top.node;
+            const OdDbObjectId id = node->database()->blockRecordId(top.next++);
+            addReference(node, id);
+        }
     }
 
 private:
-    void follow(OdDbXrefGraphNode* node, const QString& key)
+    // A drawing whose references are being walked, and the next of its block records.
+    struct Following
+    {
+        OdDbXrefGraphNode* node;
+        QString key;
+        int next;
+    };
+
+    void enter(OdDbXrefGraphNode* node, const QString& key)
     {
         m_following.insert(key);
-        OdDbDatabase* database = node->database();
-        for (int index = 0; index < database->numBlockRecords(); ++index)
-            addReference(node, database->blockRecordId(index));
-        m_following.remove(key);
+        m_path.push_back({node, key, 0});
     }
 
     void addReference(OdDbXrefGraphNode* node, const OdDbObjectId& id)
@@ -88,11 +108,13 @@ private:
         m_nodes[key] = referenced;
         node->addRefTo(referenced);
         if (referenced->database())
-            follow(referenced, key);
+            enter(referenced, key);
     }
 
     OdDbXrefGraph& m_graph;
     std::map<QString, OdDbXrefGraphNode*> m_nodes;
+    // The drawings from the root down to the one being walked.
+    std::vector<Following> m_path;
     QSet<QString> m_following;
 };
 } // namespace

@@ -21,7 +21,9 @@ public:
     // referenced file is read to follow its own references. A drawing reached twice is one
     // node. A reference back to a drawing that is being followed (a circular reference) is
     // left out, so the graph has no cycles. A file that is missing or not a readable drawing
-    // is a node without a database and without references.
+    // is a node without a database and without references. Of each referenced file only the
+    // part up to its block definitions is read (OdDbDatabase::readReferences), and the walk
+    // needs no stack of its own however long a chain of references is.
     static OdResult getFrom(OdDbDatabase* database, OdDbXrefGraph& graph);
 
     OdDbXrefGraphNode* xrefNode(int index) const;

@@ -9,6 +9,7 @@
 #include <OdDbXrefGraph.h>
 
 #include <utility>
+#include <vector>
 
 namespace {
 QString toQt(const OdString& text)
@@ -27,14 +28,23 @@ void ReferencedDrawingCopier::copyReferencesOf(OdDbDatabase* database)
         copyFrom(root);
 }
 
-void ReferencedDrawingCopier::copyFrom(const OdDbGraphNode* node)
+void ReferencedDrawingCopier::copyFrom(const OdDbGraphNode* root)
 {
-    for (int index = 0; index < node->numOut(); ++index) {
-        const OdDbGraphNode* referenced = node->out(index);
+    // Depth first, in the order of the references, on a stack of its own: a chain of
+    // references can be longer than the thread's stack is deep.
+    std::vector<std::pair<const OdDbGraphNode*, int>> path{{root, 0}};
+    while (!path.empty()) {
+        const OdDbGraphNode* node = path.back().first;
+        const int next = path.back().second++;
+        if (next >= node->numOut()) {
+            path.pop_back();
+            continue;
+        }
+        const OdDbGraphNode* referenced = node->out(next);
         if (!m_visited.insert(referenced).second)
             continue;
         copy(referenced);
-        copyFrom(referenced);
+        path.emplace_back(referenced, 0);
     }
 }
 

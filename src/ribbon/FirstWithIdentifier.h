@@ -8,9 +8,5 @@
 template <class T>
 T* firstWithIdentifier(const CFxUIList<T>& list, const CFxString& identifier)
 {
-    for (T* item : list) {
-        if (item->GetIdentifier().equalNoCase(identifier))
-            return item;
-    }
-    return nullptr;
+    return list.FindFirst(identifier);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QMap>
+#include <QHash>
 #include <QString>
 
 class CFxUIRibbonButton;
@@ -9,8 +9,9 @@ class CFxUIRibbonButton;
 // buttons of the fixed order are present. It starts with the four identifiers of the order
 // table, each without a button; an identifier, once in it, stays. Identifiers match in any
 // letter case, as the host's do, so that unloading "id_gcode_item" forgets the button loaded
-// as "ID_GCODE_ITEM" and no button taken out of the ribbon is left here as an anchor. Made
-// on first use and kept until the process ends.
+// as "ID_GCODE_ITEM" and no button taken out of the ribbon is left here as an anchor: the
+// table is keyed by the case-folded identifier, so a look-up costs the same however many
+// identifiers it holds. Made on first use and kept until the process ends.
 class LoadedRibbonItems
 {
 public:
@@ -23,6 +24,5 @@ public:
     static CFxUIRibbonButton* predecessorOf(const QString& id);
 
 private:
-    static QMap<QString, CFxUIRibbonButton*>& map();
-    static QMap<QString, CFxUIRibbonButton*>::iterator find(const QString& id);
+    static QHash<QString, CFxUIRibbonButton*>& map();
 };

@@ -5,6 +5,7 @@
 #include "LoadedModule.h"
 #include "TestStrings.h"
 
+#include <QCoreApplication>
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QSettings>
@@ -97,7 +98,16 @@ TEST_F(CompanionWidgetsTest, EachCompanionDocksItsViewAndHomeAndCommunityBringTh
     EXPECT_EQ(dockNames(window), QStringList({kForgeport, kOmniplane, kQuestions, kPane}));
     // One tab area on the right for all of them.
     EXPECT_EQ(window.tabifiedDockWidgets(dock(window, kPane)).size(), 3);
+    for (const QString& name : dockNames(window))
+        EXPECT_EQ(dock(window, name)->widget(), nullptr)
+            << qPrintable(name)
+            << ": a view is built when it first shows, not with a window that is not on screen";
     window.show();
+    QCoreApplication::processEvents();
+    int built = 0;
+    for (const QString& name : dockNames(window))
+        built += dock(window, name)->widget() ? 1 : 0;
+    EXPECT_EQ(built, 1) << "the front tab shows its view; the others wait until chosen";
     dock(window, kPane)->close();
     dock(window, kQuestions)->close();
     run(L"Home");
@@ -105,6 +115,8 @@ TEST_F(CompanionWidgetsTest, EachCompanionDocksItsViewAndHomeAndCommunityBringTh
     EXPECT_FALSE(dock(window, kQuestions)->isVisible());
     run(L"_Community");
     EXPECT_TRUE(dock(window, kQuestions)->isVisible());
+    EXPECT_NE(dock(window, kQuestions)->widget(), nullptr);
+    EXPECT_NE(dock(window, kPane)->widget(), nullptr);
 }
 
 TEST_F(CompanionWidgetsTest, AConnectorGoesWithItsViewWhileTheWindowStandsOrWithTheWindow)

@@ -70,4 +70,69 @@ TEST(XrefGraph, FollowsReferencesAcrossFilesOnceEachAndWithoutCycles)
     EXPECT_EQ(a->out(0)->out(0), a->out(1)) << "c.dxf is one node";
     EXPECT_EQ(a->out(1)->numOut(), 0);
 }
+
+void writeFile(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(path);
+    file.write(content);
+}
+
+QByteArray referencing(const QByteArray& path)
+{
+    return "  0\nSECTION\n  2\nBLOCKS\n  0\nBLOCK\n  2\nNEXT\n 70\n4\n  1\n" + path +
+           "\n  0\nENDBLK\n  0\nENDSEC\n";
+}
+
+// Longer than a walk that recurses once per drawing survives on an 8 MB stack.
+TEST(XrefGraph, WalksAChainOfFortyThousandDrawings)
+{
+    constexpr int kLength = 40000;
+    QTemporaryDir folder;
+    for (int i = 0; i < kLength; ++i) {
+        const QByteArray next = QByteArray::number(i + 1) + ".dxf";
+        writeFile(folder.filePath(QString::number(i) + ".dxf"),
+                  i + 1 < kLength
+                      ? referencing(next) + "  0\nEOF\n"
+                      : QByteArray("  0\nSECTION\n  2\nBLOCKS\n  0\nENDSEC\n  0\nEOF\n"));
+    }
+    const OdDbDatabasePtr database = OdDbDatabase::readFile(od(folder.filePath("0.dxf")));
+    OdDbXrefGraph graph;
+    ASSERT_EQ(OdDbXrefGraph::getFrom(database.get(), graph), eOk);
+    ASSERT_EQ(graph.numNodes(), kLength);
+    const OdDbGraphNode* node = graph.rootNode();
+    int depth = 0;
+    while (node->numOut() == 1) {
+        node = node->out(0);
+        ++depth;
+    }
+    EXPECT_EQ(depth, kLength - 1) << "each drawing references the next one, down to the last";
+    EXPECT_EQ(describe(node), QStringLiteral("%1.dxf").arg(kLength - 1));
+}
+
+// A referenced drawing is read as far as its block definitions: what follows them is never
+// looked at, so a huge or damaged entity section costs nothing; damage before them makes
+// the drawing unreadable, as it always did.
+TEST(XrefGraph, ReadsOfAReferencedDrawingOnlyWhatNamesItsReferences)
+{
+    QTemporaryDir folder;
+    writeFile(folder.filePath("leaf.dxf"), "  0\nSECTION\n  2\nBLOCKS\n  0\nENDSEC\n  0\nEOF\n");
+    writeFile(folder.filePath("damaged-after.dxf"),
+              "  0\nSECTION\n  2\nHEADER\n  0\nENDSEC\n" + referencing("leaf.dxf") +
+                  "  0\nSECTION\n  2\nENTITIES\nnot a group code\n");
+    writeFile(folder.filePath("damaged-before.dxf"),
+              "  0\nSECTION\n  2\nHEADER\nnot a group code\n" + referencing("leaf.dxf"));
+    writeFile(folder.filePath("root.dxf"),
+              "  0\nSECTION\n  2\nBLOCKS\n"
+              "  0\nBLOCK\n  2\nA\n 70\n4\n  1\ndamaged-after.dxf\n  0\nENDBLK\n"
+              "  0\nBLOCK\n  2\nB\n 70\n4\n  1\ndamaged-before.dxf\n  0\nENDBLK\n"
+              "  0\nENDSEC\n  0\nEOF\n");
+    const OdDbDatabasePtr database = OdDbDatabase::readFile(od(folder.filePath("root.dxf")));
+    OdDbXrefGraph graph;
+    ASSERT_EQ(OdDbXrefGraph::getFrom(database.get(), graph), eOk);
+    const OdDbGraphNode* root = graph.rootNode();
+    ASSERT_EQ(referencesOf(root), QStringList({"damaged-after.dxf", "missing:damaged-before.dxf"}));
+    EXPECT_EQ(referencesOf(root->out(0)), QStringList({"leaf.dxf"}));
+    EXPECT_EQ(root->out(1)->numOut(), 0);
+}
 } // namespace

@@ -65,6 +65,43 @@ TEST(UiList, HoldsAnObjectOnceAndPutsItLastAfterAnAnchorItDoesNotHold)
     EXPECT_EQ(ids(buttons), QStringList({"C", "B", "A"}));
 }
 
+TEST(UiList, FindsTheFirstHolderOfAnIdentifierInAnyCaseAsEntriesComeGoAndAreRenamed)
+{
+    CFxUI ui;
+    auto* first = ui.CreateRibbonButton(CFxUIRibbonButton::kCommand, "DUP");
+    auto* second = ui.CreateRibbonButton(CFxUIRibbonButton::kCommand, "dup");
+    auto* umlaut = ui.CreateRibbonButton(CFxUIRibbonButton::kCommand, "\xc3\x84RGER");
+    auto* renamed = ui.CreateRibbonButton(CFxUIRibbonButton::kCommand, "OLD");
+    CFxUIList<CFxUIRibbonButton> buttons;
+    for (auto* button : {first, second, umlaut, renamed})
+        buttons.Append(button);
+
+    EXPECT_EQ(buttons.FindFirst("Dup"), first);
+    EXPECT_EQ(buttons.FindFirst("\xc3\xa4rger"), umlaut) << "letters beyond ASCII fold too";
+    EXPECT_EQ(buttons.FindFirst("DUPE"), nullptr);
+    buttons.InsertAfter(nullptr, second);
+    EXPECT_EQ(buttons.FindFirst("DUP"), second) << "the first in the list's order";
+    buttons.Remove(second);
+    EXPECT_EQ(buttons.FindFirst("DUP"), first);
+    buttons.Remove(first);
+    EXPECT_EQ(buttons.FindFirst("DUP"), nullptr);
+    renamed->SetIdentifier("NEW");
+    EXPECT_EQ(buttons.FindFirst("old"), nullptr);
+    EXPECT_EQ(buttons.FindFirst("new"), renamed) << "a renamed entry is found by its new name";
+    buttons.Append(first);
+
+    // Reading by index, forwards and backwards, agrees with walking the list.
+    QStringList forwards, backwards;
+    for (int i = 0; i < buttons.GetCount(); ++i)
+        forwards << buttons.GetAt(i)->GetIdentifier().toQString();
+    for (int i = buttons.GetCount() - 1; i >= 0; --i)
+        backwards.prepend(buttons.GetAt(i)->GetIdentifier().toQString());
+    EXPECT_EQ(forwards, ids(buttons));
+    EXPECT_EQ(backwards, ids(buttons));
+    EXPECT_EQ(buttons.GetAt(buttons.GetCount()), nullptr);
+    EXPECT_EQ(buttons.IndexOf(first), 2);
+}
+
 TEST(UiModel, CommandsAreFoundInTheirGroupAndADeletedOneIsReferredToNowhere)
 {
     CFxUI ui;
@@ -80,7 +117,15 @@ TEST(UiModel, CommandsAreFoundInTheirGroupAndADeletedOneIsReferredToNowhere)
     CFxUIRibbonSystemMenuItem* entry = ui.CreateRibbonSystemMenuItem("RSMI_X");
     entry->AttachCommand(command);
 
+    auto* moved = ui.CreateRibbonButton(CFxUIRibbonButton::kCommand, "MOVED");
+    moved->AttachCommand(command);
+    moved->AttachCommand(kept);
+    CFxUIGroup* outside = ui.CreateMenuGroup("NOT_IN_THE_MODEL");
+    outside->GetCommands().Append(command);
+
     ui.DeleteCommand(command);
+    EXPECT_EQ(moved->GetCommand(), kept) << "a button that ran it before keeps what it runs now";
+    EXPECT_FALSE(outside->GetCommands().Contains(command)) << "every group made leaves it";
     EXPECT_EQ(button->GetCommand(), nullptr);
     EXPECT_EQ(entry->GetCommand(), nullptr);
     EXPECT_EQ(group->GetCommands().GetCount(), 1);
