@@ -55,7 +55,7 @@ function(ec_add_executable target)
     endif()
 endfunction()
 
-if(EXTCOMMANDS_SANITIZE)
+if(EXTCOMMANDS_SANITIZE OR EXTCOMMANDS_FUZZ)
     file(READ "${PROJECT_SOURCE_DIR}/tests/lsan.supp" EC_LSAN_SUPPRESSIONS)
     set_property(DIRECTORY "${PROJECT_SOURCE_DIR}" APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
                  "${PROJECT_SOURCE_DIR}/tests/lsan.supp")

@@ -20,13 +20,10 @@ const wchar_t kModule[] = L"ExtCommands";
 
 ModuleUnderTest::ModuleUnderTest() : m_mainFrame(nullptr)
 {
-    const QString stage = QStringLiteral(EC_STAGE_DIR);
-    odrxDynamicLinker()->setSearchPath({OdString(stage.toStdWString())});
-    GetFxSystemServices()->SetCompanionFolder(stage);
     auto ui = std::make_unique<CFxUI>();
     CFxUIJsonReader::readFile(QStringLiteral(EC_SOURCE_DIR "/host/profiles/default.json"), *ui);
     GetFxSystemServices()->SetUI(std::move(ui));
-    odrxDynamicLinker()->loadModule(OdString(kModule), false);
+    loadModule();
     resolveEntries();
 }
 
@@ -34,10 +31,39 @@ ModuleUnderTest::~ModuleUnderTest()
 {
     if (m_mainFrame)
         mainFrameDestroyed();
+    emptyLoadedItems();
     dropTranslators();
-    odrxDynamicLinker()->unloadModule(OdString(kModule));
-    odrxDynamicLinker()->unloadUnreferenced();
     GetFxSystemServices()->SetUI(nullptr);
+}
+
+void ModuleUnderTest::loadModule()
+{
+    static bool loaded = false;
+    if (loaded)
+        return;
+    const QString stage = QStringLiteral(EC_STAGE_DIR);
+    odrxDynamicLinker()->setSearchPath({OdString(stage.toStdWString())});
+    GetFxSystemServices()->SetCompanionFolder(stage);
+    odrxDynamicLinker()->loadModule(OdString(kModule), false);
+    loaded = true;
+}
+
+void ModuleUnderTest::emptyLoadedItems()
+{
+    // An unload clears an identifier's entry whenever the Add-Ins row is there, so a button of
+    // the harness's own holds the row while the ordered identifiers, the only ones the table
+    // places by, are unloaded; then it goes as well.
+    RibbonItem holder;
+    holder.id = holder.commandName = QStringLiteral("ID_FUZZ_HOLDER");
+    holder.tabId = QStringLiteral("ID_RibbonAddInsTab");
+    holder.panelId = QStringLiteral("ID_RibbonAddInsPanel");
+    holder.rowId = QStringLiteral("ID_RibbonAddInsRow");
+    holder.type = QStringLiteral("command");
+    load(&holder, 0);
+    for (const char* id :
+         {"ID_DRAWCOMPARE_ITEM", "ID_GCODE_ITEM", "ID_VAULTLINE_ITEM", "ID_PK_PARTKIT"})
+        unload(QString::fromLatin1(id));
+    unload(holder.id);
 }
 
 void ModuleUnderTest::resolveEntries()
