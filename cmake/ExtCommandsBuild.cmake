@@ -27,6 +27,17 @@ if(EXTCOMMANDS_SANITIZE)
     add_compile_definitions(EXTCOMMANDS_SANITIZE=1)
 endif()
 
+option(EXTCOMMANDS_FUZZ "Build the libFuzzer targets (clang only); every library is instrumented" OFF)
+if(EXTCOMMANDS_FUZZ)
+    # The libraries and the module carry coverage counters and the sanitizers; only the fuzz
+    # programs link libFuzzer's driver (fuzz/CMakeLists.txt). What the module keeps for the
+    # process is marked for the leak checker as in the sanitizer build.
+    add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-omit-frame-pointer
+                        -fno-sanitize-recover=undefined)
+    add_link_options(-fsanitize=address,undefined)
+    add_compile_definitions(EXTCOMMANDS_SANITIZE=1)
+endif()
+
 # ec_add_platform_module(<target> <sources>...)
 # A module that the platform's dynamic linker loads by name: "<target>.tx" in the stage folder.
 function(ec_add_platform_module target)
@@ -44,7 +55,7 @@ function(ec_add_executable target)
     endif()
 endfunction()
 
-if(EXTCOMMANDS_SANITIZE)
+if(EXTCOMMANDS_SANITIZE OR EXTCOMMANDS_FUZZ)
     file(READ "${PROJECT_SOURCE_DIR}/tests/lsan.supp" EC_LSAN_SUPPRESSIONS)
     set_property(DIRECTORY "${PROJECT_SOURCE_DIR}" APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
                  "${PROJECT_SOURCE_DIR}/tests/lsan.supp")

@@ -3,6 +3,7 @@
 #include "EventPrinter.h"
 #include "HostError.h"
 #include "HostSession.h"
+#include "ResidentMemory.h"
 #include "ScriptParser.h"
 
 #include <OdEventLog.h>
@@ -78,6 +79,10 @@ void ScriptRunner::execute(const ScriptStatement& statement, const QDir& baseFol
     } else if (keyword == QLatin1String("screenshot")) {
         expectWords(statement, 2, "screenshot PATH");
         m_session.screenshot(baseFolder.absoluteFilePath(statement.words[1]));
+    } else if (keyword == QLatin1String("memory")) {
+        expectWords(statement, 1, "memory");
+        OdEventLog::report(QStringLiteral("memory"),
+                           {{QStringLiteral("resident-kb"), ResidentMemory::kilobytes()}});
     } else if (keyword == QLatin1String("wait-events")) {
         expectWords(statement, 1, "wait-events");
         m_session.waitEvents();

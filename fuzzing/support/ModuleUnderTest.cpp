@@ -1,0 +1,115 @@
+#include "ModuleUnderTest.h"
+
+#include <QCoreApplication>
+#include <QTranslator>
+#include <QWidget>
+
+#include <CFxSystemServices.h>
+#include <CFxUI.h>
+#include <CFxUIJsonReader.h>
+#include <OdRxDynamicLinker.h>
+#include <OdSharedLibrary.h>
+#include <private/qcoreapplication_p.h>
+
+#include <memory>
+#include <stdexcept>
+
+namespace {
+const wchar_t kModule[] = L"ExtCommands";
+} // namespace
+
+ModuleUnderTest::ModuleUnderTest() : m_mainFrame(nullptr)
+{
+    auto ui = std::make_unique<CFxUI>();
+    CFxUIJsonReader::readFile(QStringLiteral(EC_SOURCE_DIR "/host/profiles/default.json"), *ui);
+    GetFxSystemServices()->SetUI(std::move(ui));
+    loadModule();
+    resolveEntries();
+}
+
+ModuleUnderTest::~ModuleUnderTest()
+{
+    if (m_mainFrame)
+        mainFrameDestroyed();
+    emptyLoadedItems();
+    dropTranslators();
+    GetFxSystemServices()->SetUI(nullptr);
+}
+
+void ModuleUnderTest::loadModule()
+{
+    static bool loaded = false;
+    if (loaded)
+        return;
+    const QString stage = QStringLiteral(EC_STAGE_DIR);
+    odrxDynamicLinker()->setSearchPath({OdString(stage.toStdWString())});
+    GetFxSystemServices()->SetCompanionFolder(stage);
+    odrxDynamicLinker()->loadModule(OdString(kModule), false);
+    loaded = true;
+}
+
+void ModuleUnderTest::emptyLoadedItems()
+{
+    // An unload clears an identifier's entry whenever the Add-Ins row is there, so a button of
+    // the harness's own holds the row while the ordered identifiers, the only ones the table
+    // places by, are unloaded; then it goes as well.
+    RibbonItem holder;
+    holder.id = holder.commandName = QStringLiteral("ID_FUZZ_HOLDER");
+    holder.tabId = QStringLiteral("ID_RibbonAddInsTab");
+    holder.panelId = QStringLiteral("ID_RibbonAddInsPanel");
+    holder.rowId = QStringLiteral("ID_RibbonAddInsRow");
+    holder.type = QStringLiteral("command");
+    load(&holder, 0);
+    for (const char* id :
+         {"ID_DRAWCOMPARE_ITEM", "ID_GCODE_ITEM", "ID_VAULTLINE_ITEM", "ID_PK_PARTKIT"})
+        unload(QString::fromLatin1(id));
+    unload(holder.id);
+}
+
+void ModuleUnderTest::resolveEntries()
+{
+    // Opening the loaded module again only finds it; closing gives the reference back.
+    OdString error;
+    const OdModuleHandle library = OdSharedLibrary::open(
+        odrxDynamicLinker()->loadModule(OdString(kModule), false)->moduleName(), error);
+    const auto entry = [library](auto& function, const char* name) {
+        void* address = library ? OdSharedLibrary::resolve(library, name) : nullptr;
+        if (!address)
+            throw std::runtime_error(std::string("the module exports no ") + name);
+        function = reinterpret_cast<std::remove_reference_t<decltype(function)>>(address);
+    };
+    entry(load, "LoadRibbonMenuWrapper");
+    entry(unload, "UnLoadRibbonMenuWrapper");
+    entry(setVisibility, "SetRibbonItemVisibility");
+    entry(loadExportTable, "LoadExportTableRibbonMenuWrapper");
+    entry(unloadExportTable, "UnLoadExportTableRibbonMenuWrapper");
+    OdSharedLibrary::close(library);
+}
+
+void ModuleUnderTest::mainFrameCreated()
+{
+    // The host tells its reactors of a second creation again, with the same window.
+    if (!m_mainFrame)
+        m_mainFrame = new QWidget;
+    GetFxSystemServices()->MainFrameCreated(m_mainFrame);
+}
+
+void ModuleUnderTest::mainFrameDestroyed()
+{
+    GetFxSystemServices()->MainFrameDestroyed(m_mainFrame);
+    delete m_mainFrame;
+    m_mainFrame = nullptr;
+}
+
+void ModuleUnderTest::dropTranslators()
+{
+    // Each main window installs the module's translators for the rest of the process; a fuzz
+    // run makes hundreds of thousands of windows, so they go with the module here.
+    auto* application =
+        static_cast<QCoreApplicationPrivate*>(QObjectPrivate::get(QCoreApplication::instance()));
+    const QList<QTranslator*> translators = application->translators;
+    for (QTranslator* translator : translators) {
+        QCoreApplication::removeTranslator(translator);
+        delete translator;
+    }
+}

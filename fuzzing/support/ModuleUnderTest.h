@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QString>
+
+#include <ExtCommands/RibbonItem.h>
+
+class QWidget;
+
+// The ExtCommands module, loaded through the platform's dynamic linker, over a host UI read
+// afresh from the host's default profile for each input, with the exported functions found by
+// name, as a sibling finds them.
+//
+// libFuzzer cannot follow a library that is unloaded and loaded again (it would clear the
+// coverage counters of the unmapped copy), so the module is loaded once for the process. What
+// it keeps between calls (the ribbon's loaded-item table) is emptied through its own interface
+// when an input ends, and the main window, the UI and the translators that its main windows
+// installed go with the input: each input starts where a freshly loaded module starts.
+class ModuleUnderTest
+{
+public:
+    ModuleUnderTest();
+    ~ModuleUnderTest();
+    ModuleUnderTest(const ModuleUnderTest&) = delete;
+    ModuleUnderTest& operator=(const ModuleUnderTest&) = delete;
+
+    void mainFrameCreated();
+    void mainFrameDestroyed();
+
+    void (*load)(RibbonItem*, int) = nullptr;
+    void (*unload)(const QString&) = nullptr;
+    void (*setVisibility)(const QString&, bool) = nullptr;
+    void (*loadExportTable)() = nullptr;
+    void (*unloadExportTable)() = nullptr;
+
+private:
+    static void loadModule();
+    void resolveEntries();
+    void emptyLoadedItems();
+    static void dropTranslators();
+
+    QWidget* m_mainFrame;
+};

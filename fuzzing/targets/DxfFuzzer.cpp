@@ -1,0 +1,143 @@
+// The platform's DXF reader and the reference walk over what it reads. The input is up to four
+// drawings, separated by lines "====" and saved as a.dxf, b.dxf, c.dxf and d.dxf in a folder of
+// their own, so that references between them (relative, with "\" or "/", circular) are
+// followed for real. a.dxf is read; a drawing that is read is written back and read again
+// group for group; its reference graph is walked and must be a graph without cycles whose
+// drawings are each one node.
+#include "FuzzEnvironment.h"
+#include "FuzzFailure.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <OdDbDatabase.h>
+#include <OdDbXrefGraph.h>
+#include <OdError.h>
+#include <OdRxSystemServices.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <set>
+#include <vector>
+
+namespace {
+constexpr int kMaxDrawings = 4;
+
+OdString od(const QString& text)
+{
+    return OdString(text.toStdWString());
+}
+
+QString saveDrawings(const QByteArray& input)
+{
+    const QString folder = FuzzEnvironment::freshFolder();
+    const QList<QByteArray> parts = input.split('\n');
+    QByteArray drawing;
+    int saved = 0;
+    auto save = [&] {
+        QFile file(folder + QStringLiteral("/%1.dxf").arg(QChar('a' + saved++)));
+        if (file.open(QIODevice::WriteOnly))
+            file.write(drawing);
+        drawing.clear();
+    };
+    for (int i = 0; i < parts.size(); ++i) {
+        if (parts[i] == "====" && saved < kMaxDrawings - 1) {
+            save();
+            continue;
+        }
+        drawing += parts[i];
+        if (i + 1 < parts.size())
+            drawing += '\n';
+    }
+    save();
+    return folder;
+}
+
+void checkWrittenBack(const OdDbDatabase& database, const QString& folder)
+{
+    const QString copy = folder + QStringLiteral("/written.dxf");
+    database.writeFile(
+        odSystemServices()
+            ->createFile(od(copy), Oda::kFileWrite, Oda::kShareDenyNo, Oda::kCreateAlways)
+            .get(),
+        OdDb::kDxf, static_cast<OdDb::DwgVersion>(27));
+    OdDbDatabasePtr again;
+    try {
+        again = OdDbDatabase::readFile(od(copy));
+    } catch (const OdError& error) {
+        FuzzFailure::report(QStringLiteral("a written drawing cannot be read: ") + error.what());
+    }
+    if (again->groups() != database.groups())
+        FuzzFailure::report(QStringLiteral("a drawing written back lost or changed groups"));
+}
+
+// Every edge leads to a node of the graph, no cycle, and no drawing twice.
+void checkGraph(const OdDbXrefGraph& graph, OdDbDatabase* root)
+{
+    if (graph.numNodes() < 1 ||
+        static_cast<OdDbXrefGraphNode*>(graph.rootNode())->database() != root)
+        FuzzFailure::report(QStringLiteral("the root node is not the drawing walked"));
+    std::vector<OdDbGraphNode*> nodes;
+    std::set<QString> files;
+    for (int i = 0; i < graph.numNodes(); ++i) {
+        nodes.push_back(graph.node(i));
+        const OdDbDatabase* database = graph.xrefNode(i)->database();
+        if (database &&
+            !files.insert(QString::fromStdWString(database->getFilename().wide())).second)
+            FuzzFailure::report(QStringLiteral("a drawing is more than one node"));
+    }
+    // Colours of an iterative depth-first walk: 0 not seen, 1 on the path, 2 done.
+    std::vector<int> colour(nodes.size(), 0);
+    const auto indexOf = [&nodes](OdDbGraphNode* node) {
+        for (std::size_t i = 0; i < nodes.size(); ++i) {
+            if (nodes[i] == node)
+                return static_cast<int>(i);
+        }
+        FuzzFailure::report(QStringLiteral("an edge leads out of the graph"));
+    };
+    for (std::size_t start = 0; start < nodes.size(); ++start) {
+        if (colour[start] != 0)
+            continue;
+        std::vector<std::pair<int, int>> path{{static_cast<int>(start), 0}};
+        colour[start] = 1;
+        while (!path.empty()) {
+            auto& [node, next] = path.back();
+            if (next == nodes[node]->numOut()) {
+                colour[node] = 2;
+                path.pop_back();
+                continue;
+            }
+            const int target = indexOf(nodes[node]->out(next++));
+            if (colour[target] == 1)
+                FuzzFailure::report(QStringLiteral("the reference graph has a cycle"));
+            if (colour[target] == 0) {
+                colour[target] = 1;
+                path.push_back({target, 0});
+            }
+        }
+    }
+}
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
+{
+    FuzzEnvironment::prepare(argc, argv);
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const QString folder =
+        saveDrawings(QByteArray(reinterpret_cast<const char*>(data), static_cast<int>(size)));
+    OdDbDatabasePtr database;
+    try {
+        database = OdDbDatabase::readFile(od(folder + QStringLiteral("/a.dxf")));
+    } catch (const OdError&) {
+        return 0;
+    }
+    checkWrittenBack(*database, folder);
+    OdDbXrefGraph graph;
+    OdDbXrefGraph::getFrom(database.get(), graph);
+    checkGraph(graph, database.get());
+    return 0;
+}
