@@ -15,8 +15,7 @@
 namespace {
 QString identifier(int version)
 {
-    return QString::fromLatin1(VcModelViewerAutomation::identifierPrefix) +
-           QString::number(version);
+    return VcModelViewerAutomation::serverIdentifier(version);
 }
 
 // A word of a service file's Exec line, quoted the way D-Bus splits it.

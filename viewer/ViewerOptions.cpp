@@ -60,8 +60,7 @@ ViewerOptions installOptions(const QCommandLineParser& parser)
     const int newest = *std::max_element(options.versions.begin(), options.versions.end());
     options.currentVersion = parser.isSet(QStringLiteral("current"))
                                  ? parser.value(QStringLiteral("current"))
-                                 : QString::fromLatin1(VcModelViewerAutomation::identifierPrefix) +
-                                       QString::number(newest);
+                                 : VcModelViewerAutomation::serverIdentifier(newest);
     options.registryFile = parser.value(QStringLiteral("registry"));
     return options;
 }

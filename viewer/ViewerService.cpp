@@ -14,8 +14,7 @@
 
 namespace Automation = VcModelViewerAutomation;
 
-ViewerService::ViewerService(int version)
-    : m_identifier(QString::fromLatin1(Automation::identifierPrefix) + QString::number(version))
+ViewerService::ViewerService(int version) : m_identifier(Automation::serverIdentifier(version))
 {
     new ServerAdaptor(&m_server);
 }

@@ -38,6 +38,13 @@ constexpr const char* dispatchMethod = "Invoke";
 constexpr const char* eventsInterface = "com.corvane.VcModelViewer.Events";
 constexpr const char* calledSignal = "Called";
 
+// The automation server of viewer version `version`: "VcModelViewer.VcstViewer." followed by
+// the version in decimal. On Windows it is the COM server's ProgID.
+inline QString serverIdentifier(int version)
+{
+    return QString::fromLatin1(identifierPrefix) + QString::number(version);
+}
+
 // The session-bus name of the automation server `identifier`: "com.corvane." followed by the
 // identifier, where a part that starts with a digit (not allowed in a bus name) gets a
 // leading "v" and a character other than a letter, a digit, "_" or "-" becomes "_". So

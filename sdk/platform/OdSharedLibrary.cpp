@@ -3,6 +3,8 @@
 #include <QFileInfo>
 #include <QString>
 
+#include <string>
+
 #if defined(_WIN32)
 #include <windows.h>
 #else
@@ -37,11 +39,21 @@ void OdSharedLibrary::close(OdModuleHandle library)
     ::FreeLibrary(library);
 }
 
+// The file's absolute path with "/" separators, as the dlinfo twin answers; a path longer than
+// MAX_PATH is read whole, not cut.
 OdString OdSharedLibrary::fileName(OdModuleHandle library)
 {
-    wchar_t buffer[MAX_PATH] = {};
-    ::GetModuleFileNameW(library, buffer, MAX_PATH);
-    return OdString(buffer);
+    if (!library)
+        return OdString();
+    std::wstring buffer(MAX_PATH, L'\0');
+    DWORD length = 0;
+    while ((length = ::GetModuleFileNameW(library, &buffer[0], DWORD(buffer.size()))) ==
+           buffer.size())
+        buffer.resize(buffer.size() * 2);
+    if (length == 0)
+        return OdString();
+    buffer.resize(length);
+    return fromQt(QFileInfo(QString::fromStdWString(buffer)).absoluteFilePath());
 }
 
 bool OdSharedLibrary::isLoaded(const OdString& path)

@@ -73,8 +73,7 @@ int ViewcastPublisher::registeredVersion()
 bool ViewcastPublisher::findServer(int newest)
 {
     for (int version = newest; version >= VcModelViewerAutomation::firstVersion; --version) {
-        const QString identifier =
-            text(VcModelViewerAutomation::identifierPrefix) + QString::number(version);
+        const QString identifier = VcModelViewerAutomation::serverIdentifier(version);
         if (m_automation->isCreatable(identifier)) {
             m_version = version;
             m_identifier = identifier;

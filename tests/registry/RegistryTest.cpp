@@ -3,20 +3,91 @@
 #include "IsolatedHome.h"
 
 #include <QFile>
+#include <QSettings>
 #include <QTemporaryDir>
+#include <QVariant>
 
 #include <gtest/gtest.h>
 
 #include <CFxRegistry.h>
 
-TEST(Registry, KeyPathsAreGroupsOfTheStandInFile)
+struct KeyPathCase
 {
-    EXPECT_EQ(CFxRegistry::standInGroup(
-                  QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\BfxConnectors\\")),
-              QStringLiteral("HKEY_LOCAL_MACHINE/SOFTWARE/Corvane/BfxConnectors"));
-    EXPECT_EQ(CFxRegistry::standInGroup(
-                  QStringLiteral("HKEY_CLASSES_ROOT\\VcModelViewer.VcstViewer\\CurVer")),
-              QStringLiteral("HKEY_CLASSES_ROOT/VcModelViewer.VcstViewer/CurVer"));
+    const char* keyPath;
+    const char* nativePath;
+    const char* standInGroup;
+};
+
+class RegistryKeyPath : public testing::TestWithParam<KeyPathCase>
+{};
+
+// The keys the module reads, spelt as callers spell them: the same key for the registry
+// (QSettings' native path on Windows) and for the stand-in's group.
+TEST_P(RegistryKeyPath, NamesTheSameKeyOnWindowsAndInTheStandIn)
+{
+    const KeyPathCase& key = GetParam();
+    EXPECT_EQ(CFxRegistry::nativeKeyPath(QString::fromLatin1(key.keyPath)),
+              QString::fromLatin1(key.nativePath));
+    EXPECT_EQ(CFxRegistry::standInGroup(QString::fromLatin1(key.keyPath)),
+              QString::fromLatin1(key.standInGroup));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Keys, RegistryKeyPath,
+    testing::Values(KeyPathCase{"HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\BfxConnectors\\",
+                                "HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\BfxConnectors",
+                                "HKEY_LOCAL_MACHINE/SOFTWARE/Corvane/BfxConnectors"},
+                    KeyPathCase{"HKEY_CLASSES_ROOT\\VcModelViewer.VcstViewer\\CurVer",
+                                "HKEY_CLASSES_ROOT\\VcModelViewer.VcstViewer\\CurVer",
+                                "HKEY_CLASSES_ROOT/VcModelViewer.VcstViewer/CurVer"},
+                    KeyPathCase{"HKEY_LOCAL_MACHINE/SOFTWARE//Corvane\\\\BfxConnectors/",
+                                "HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\BfxConnectors",
+                                "HKEY_LOCAL_MACHINE/SOFTWARE/Corvane/BfxConnectors"}));
+
+// What an installer writes on Windows, as the registry hands it to QSettings there: REG_DWORD
+// as an int, REG_QWORD as a 64-bit integer, REG_SZ as a string. Written into the stand-in, the
+// companions' switch reads as a boolean exactly as the typed registry value does.
+class RegistrySwitchValue : public testing::TestWithParam<QVariant>
+{};
+
+TEST_P(RegistrySwitchValue, ReadsAsTheRegistrysOwnValueReads)
+{
+    QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("registry.ini"));
+    CFxRegistry::setStandInFile(file);
+    QSettings(file, QSettings::IniFormat)
+        .setValue(
+            QStringLiteral("HKEY_LOCAL_MACHINE/SOFTWARE/Corvane/BfxConnectors/OmniplaneCSEnable"),
+            GetParam());
+    const auto key = CFxRegistry::openKey(
+        QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\BfxConnectors\\"));
+    EXPECT_EQ(key->value(QStringLiteral("OmniplaneCSEnable"), false).toBool(), GetParam().toBool())
+        << GetParam().typeName() << " " << qPrintable(GetParam().toString());
+    CFxRegistry::setStandInFile(QString());
+}
+
+INSTANTIATE_TEST_SUITE_P(Types, RegistrySwitchValue,
+                         testing::Values(QVariant(1), QVariant(0), QVariant(qint64(1)),
+                                         QVariant(qint64(0)), QVariant(QStringLiteral("true")),
+                                         QVariant(QStringLiteral("false")),
+                                         QVariant(QStringLiteral("1")),
+                                         QVariant(QStringLiteral("0")), QVariant(QString())));
+
+// The registry finds a key whatever the letter case of its parts; so does the stand-in.
+TEST(Registry, KeysAreFoundInAnyLetterCase)
+{
+    QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("registry.ini"));
+    CFxRegistry::setStandInFile(file);
+    QSettings(file, QSettings::IniFormat)
+        .setValue(QStringLiteral("HKEY_CLASSES_ROOT/vcmodelviewer.VCSTVIEWER/curver/Default"),
+                  QStringLiteral("VcModelViewer.VcstViewer.12"));
+    EXPECT_EQ(
+        CFxRegistry::openKey(QStringLiteral("HKEY_CLASSES_ROOT\\VcModelViewer.VcstViewer\\CurVer"))
+            ->value(QStringLiteral("Default"))
+            .toString(),
+        QStringLiteral("VcModelViewer.VcstViewer.12"));
+    CFxRegistry::setStandInFile(QString());
 }
 
 TEST(Registry, ValuesWrittenByAnInstallerAreReadBackThroughTheKey)
