@@ -39,10 +39,16 @@ void EventPrinter::hostEvent(const QString& name, const OdEventFields& fields)
 void EventPrinter::hostTextEvent(const QString& name, const OdEventFields& fields,
                                  const QString& field, const OdJsonText& text)
 {
-    const QByteArray readable = readableLine(name, fields, field, text);
-    write(m_json ? jsonLine(name, fields, field, text) : readable);
-    if (m_echo)
-        m_echo(QString::fromUtf8(readable));
+    // The text may be large: only what is shown is written.
+    if (m_json)
+        write(jsonLine(name, fields, field, text));
+    if (!m_json || m_echo) {
+        const QByteArray readable = readableLine(name, fields, field, text);
+        if (!m_json)
+            write(readable);
+        if (m_echo)
+            m_echo(QString::fromUtf8(readable));
+    }
 }
 
 void EventPrinter::note(const QString& text)

@@ -1,5 +1,6 @@
 #include "CFxJsonTextWriter.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -107,7 +108,7 @@ void CFxJsonTextWriter::separate()
 void CFxJsonTextWriter::indent(std::size_t level)
 {
     if (!m_compact)
-        m_text.append(static_cast<int>(4 * level), ' ');
+        m_text.append(static_cast<int>(4 * std::min(level, kMaxIndentLevel)), ' ');
 }
 
 void CFxJsonTextWriter::escape(const QString& text)

@@ -14,6 +14,11 @@
 class FX_KERNEL_EXPORT CFxJsonTextWriter
 {
 public:
+    // Indented text stops indenting deeper than this many levels: a document nested thousands
+    // deep would otherwise grow with the square of its depth. Models of the host nest about a
+    // dozen levels, and are written as Qt writes them.
+    static constexpr std::size_t kMaxIndentLevel = 64;
+
     explicit CFxJsonTextWriter(bool compact);
 
     void beginObject();

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <CFxJsonTextWriter.h>
 #include <CFxUI.h>
 #include <CFxUIJsonReader.h>
 #include <CFxUIJsonWriter.h>
@@ -235,4 +236,30 @@ TEST(UiProfile, ThousandsOfTabsAndCommandsAreReadAndFoundByIdentifier)
                   QString("ID_C%1").arg(i * 5 + 4));
     }
     EXPECT_EQ(mainGroup(ui)->GetCommands().GetCount(), commandCount);
+}
+
+// Indented text of a document nested far deeper than any model stays valid JSON, but its lines
+// stop moving right, so that its size grows with the document's and not with its square.
+TEST(JsonText, DeepDocumentsAreIndentedOnlySoFar)
+{
+    constexpr int depth = 200;
+    QByteArray texts[2];
+    for (bool compact : {true, false}) {
+        CFxJsonTextWriter out(compact);
+        for (int i = 0; i < depth; ++i) {
+            out.beginObject();
+            out.key("next");
+        }
+        out.value(QStringLiteral("end"));
+        for (int i = 0; i < depth; ++i)
+            out.endObject();
+        texts[compact] = out.take();
+    }
+    QJsonParseError error{};
+    EXPECT_EQ(QJsonDocument::fromJson(texts[false], &error), QJsonDocument::fromJson(texts[true]))
+        << qPrintable(error.errorString());
+    int widest = 0;
+    for (const QByteArray& line : texts[false].split('\n'))
+        widest = std::max(widest, static_cast<int>(line.size() - line.trimmed().size()));
+    EXPECT_EQ(widest, 4 * int(CFxJsonTextWriter::kMaxIndentLevel));
 }
