@@ -36,6 +36,21 @@ void EventPrinter::hostEvent(const QString& name, const OdEventFields& fields)
         m_echo(QString::fromUtf8(readable));
 }
 
+void EventPrinter::hostTextEvent(const QString& name, const OdEventFields& fields,
+                                 const QString& field, const OdJsonText& text)
+{
+    // The text may be large: only what is shown is written.
+    if (m_json)
+        write(jsonLine(name, fields, field, text));
+    if (!m_json || m_echo) {
+        const QByteArray readable = readableLine(name, fields, field, text);
+        if (!m_json)
+            write(readable);
+        if (m_echo)
+            m_echo(QString::fromUtf8(readable));
+    }
+}
+
 void EventPrinter::note(const QString& text)
 {
     if (!m_json)
@@ -58,6 +73,20 @@ QByteArray EventPrinter::readableLine(const QString& name, const OdEventFields& 
     for (const auto& field : fields)
         line += ' ' + field.first.toUtf8() + '=' + readableValue(field.second);
     return line;
+}
+
+QByteArray EventPrinter::jsonLine(const QString& name, const OdEventFields& fields,
+                                  const QString& field, const OdJsonText& text)
+{
+    QByteArray line = jsonLine(name, fields);
+    line.chop(1);
+    return line + ',' + compactJson(field) + ':' + text(true) + '}';
+}
+
+QByteArray EventPrinter::readableLine(const QString& name, const OdEventFields& fields,
+                                      const QString& field, const OdJsonText& text)
+{
+    return readableLine(name, fields) + ' ' + field.toUtf8() + '=' + text(false).trimmed();
 }
 
 void EventPrinter::write(const QByteArray& line)

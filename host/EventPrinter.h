@@ -13,6 +13,8 @@ public:
     EventPrinter(bool json, std::FILE* output);
 
     void hostEvent(const QString& name, const OdEventFields& fields) override;
+    void hostTextEvent(const QString& name, const OdEventFields& fields, const QString& field,
+                       const OdJsonText& text) override;
     // A line that is not an event (the statement being run, in readable mode only).
     void note(const QString& text);
 
@@ -21,6 +23,11 @@ public:
 
     static QByteArray jsonLine(const QString& name, const OdEventFields& fields);
     static QByteArray readableLine(const QString& name, const OdEventFields& fields);
+    // The same lines for an event whose last field is an object given as text.
+    static QByteArray jsonLine(const QString& name, const OdEventFields& fields,
+                               const QString& field, const OdJsonText& text);
+    static QByteArray readableLine(const QString& name, const OdEventFields& fields,
+                                   const QString& field, const OdJsonText& text);
 
 private:
     void write(const QByteArray& line);

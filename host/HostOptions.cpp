@@ -5,6 +5,8 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace {
 int parseInteger(const QString& text, const QString& option)
 {
@@ -15,14 +17,27 @@ int parseInteger(const QString& text, const QString& option)
     return value;
 }
 
+// A part of the product version is digits only: toInt() would also take a sign or blanks.
+bool isDigits(const QString& part)
+{
+    return !part.isEmpty() && std::all_of(part.begin(), part.end(), [](QChar c) {
+        return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+    });
+}
+
 void parseProductVersion(const QString& text, int (&version)[4])
 {
     const QStringList parts = text.split(QLatin1Char('.'));
     if (parts.size() != 4)
         throw HostError(
             QStringLiteral("--product-version takes four numbers A.B.C.D, not '%1'").arg(text));
-    for (int i = 0; i < 4; ++i)
+    for (int i = 0; i < 4; ++i) {
+        if (!isDigits(parts[i]))
+            throw HostError(
+                QStringLiteral("--product-version takes whole numbers 0, 1, 2, ..., not '%1'")
+                    .arg(parts[i]));
         version[i] = parseInteger(parts[i], QStringLiteral("product-version"));
+    }
 }
 
 // QCommandLineParser takes the program's name from QCoreApplication's arguments, and the host

@@ -268,9 +268,13 @@ void HostSession::runCommandLine(const QString& name, const QStringList& answers
 
 void HostSession::reportUi()
 {
+    // Written as text while the model is walked: a model nested thousands deep would take
+    // memory growing with the square of its depth as a QJsonObject, and Qt's writer recurses.
     const CFxUI* ui = GetFxSystemServices()->GetUI();
-    OdEventLog::report(QStringLiteral("ui"), {{QStringLiteral("model"),
-                                               ui ? CFxUIJsonWriter::write(*ui) : QJsonObject()}});
+    OdEventLog::report(QStringLiteral("ui"), {}, QStringLiteral("model"), [ui](bool compact) {
+        return ui ? CFxUIJsonWriter::writeText(*ui, compact)
+                  : QByteArray(compact ? "{}" : "{\n}\n");
+    });
 }
 
 void HostSession::reportCommands()

@@ -14,7 +14,7 @@
 TranslationObserver::TranslationObserver() : m_locale(QLocale().name())
 {
     for (QTranslator* translator : installedTranslators())
-        m_known.append(translator);
+        m_known.insert(translator, translator);
     QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -33,10 +33,16 @@ bool TranslationObserver::eventFilter(QObject* watched, QEvent* event)
 
 void TranslationObserver::look()
 {
-    QList<QTranslator*> installed = installedTranslators();
-    installed.erase(std::remove_if(installed.begin(), installed.end(),
-                                   [this](const QTranslator* t) { return isKnown(t); }),
-                    installed.end());
+    // Only the translators installed now are remembered, so that a look costs as much as the
+    // translators installed, however many came and went before.
+    QList<QTranslator*> installed;
+    QHash<const QTranslator*, QPointer<QTranslator>> known;
+    for (QTranslator* translator : installedTranslators()) {
+        if (!isKnown(translator))
+            installed.append(translator);
+        known.insert(translator, translator);
+    }
+    m_known.swap(known);
     const QString locale = QLocale().name();
     if (locale != m_locale || (!installed.isEmpty() && !m_localeReportedInStatement)) {
         m_locale = locale;
@@ -44,7 +50,6 @@ void TranslationObserver::look()
         OdEventLog::report(QStringLiteral("default-locale"), {{QStringLiteral("name"), locale}});
     }
     for (QTranslator* translator : installed) {
-        m_known.append(translator);
         OdEventLog::report(QStringLiteral("translator-installed"),
                            {{QStringLiteral("file"), translator->filePath()}});
     }
@@ -52,9 +57,10 @@ void TranslationObserver::look()
 
 bool TranslationObserver::isKnown(const QTranslator* translator) const
 {
-    return std::any_of(
-        m_known.begin(), m_known.end(),
-        [translator](const QPointer<QTranslator>& known) { return known.data() == translator; });
+    // A translator deleted since has left a null pointer behind: a new one at its address is
+    // not known.
+    const auto known = m_known.constFind(translator);
+    return known != m_known.constEnd() && known->data() == translator;
 }
 
 QList<QTranslator*> TranslationObserver::installedTranslators()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -23,6 +24,8 @@ public:
 
     // Reports what changed since the last look; the next look belongs to a new statement.
     void statementEnded();
+    // How many translators the observer remembers: those installed at the last look.
+    int remembered() const { return m_known.size(); }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -32,7 +35,8 @@ private:
     bool isKnown(const QTranslator* translator) const;
     static QList<QTranslator*> installedTranslators();
 
-    QList<QPointer<QTranslator>> m_known;
+    // Each translator installed at the last look, by its address.
+    QHash<const QTranslator*, QPointer<QTranslator>> m_known;
     QString m_locale;
     bool m_localeReportedInStatement = false;
 };

@@ -7,11 +7,11 @@
 #include "ScriptRunner.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QFileInfo>
 #include <QMessageBox>
 
 #include <CFxSystemServices.h>
+#include <CFxTextFile.h>
 #include <OdEventLog.h>
 
 #include <cstdio>
@@ -31,10 +31,11 @@ void applySystemLocale(const QString& name)
 
 QString readScript(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        throw HostError(QStringLiteral("cannot read script %1: %2").arg(path, file.errorString()));
-    return QString::fromUtf8(file.readAll());
+    QByteArray content;
+    QString error;
+    if (!CFxTextFile::read(path, content, error))
+        throw HostError(QStringLiteral("cannot read script %1: %2").arg(path, error));
+    return QString::fromUtf8(content);
 }
 
 bool displayAvailable()

@@ -2,16 +2,17 @@
 
 #include "RibbonRecordParser.h"
 
-#include <QFile>
+#include <CFxTextFile.h>
 
 bool RibbonRecordFile::read(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        m_error = QStringLiteral("cannot read %1: %2").arg(path, file.errorString());
+    QByteArray content;
+    QString problem;
+    if (!CFxTextFile::read(path, content, problem)) {
+        m_error = QStringLiteral("cannot read %1: %2").arg(path, problem);
         return false;
     }
-    RibbonRecordParser parser(QString::fromUtf8(file.readAll()));
+    RibbonRecordParser parser(QString::fromUtf8(content));
     if (!parser.parse(m_owned, m_records)) {
         m_error =
             QStringLiteral("%1 is not a list of ribbon records: %2").arg(path, parser.error());

@@ -93,7 +93,7 @@ CFxUICommand* CFxUI::CreateCommand(const CFxString& identifier, CFxUIGroup* owne
 {
     auto* command = make<CFxUICommand>(identifier);
     if (owner)
-        owner->GetCommands().Append(command);
+        owner->GetCommands().AppendNew(command);
     return command;
 }
 

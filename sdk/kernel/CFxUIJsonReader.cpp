@@ -1,10 +1,11 @@
 #include "CFxUIJsonReader.h"
 
+#include "CFxTextFile.h"
 #include "CFxUI.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QSet>
 
 #include <OdError.h>
 
@@ -66,6 +67,17 @@ QJsonArray array(const QJsonObject& json, const QString& key, const QString& pat
     return value.toArray();
 }
 
+// A command's icons of one size: a path and a second path, at most.
+QJsonArray icons(const QJsonObject& json, const QString& key, const QString& path)
+{
+    const QJsonArray list = array(json, key, path);
+    if (list.size() > 2)
+        fail(path, QStringLiteral("'%1' holds %2 icons; a command has two of each size at most")
+                       .arg(key)
+                       .arg(list.size()));
+    return list;
+}
+
 // Calls `read` with each element of the list `key`, which must be objects.
 template <class Read>
 void forEachObject(const QJsonObject& json, const QString& key, const QString& path, Read read)
@@ -114,11 +126,12 @@ void CFxUIJsonReader::read(const QJsonObject& profile, CFxUI& ui)
 
 void CFxUIJsonReader::readFile(const QString& path, CFxUI& ui)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        fail(path, QStringLiteral("cannot be read: %1").arg(file.errorString()));
+    QByteArray content;
+    QString problem;
+    if (!CFxTextFile::read(path, content, problem))
+        fail(path, QStringLiteral("cannot be read: %1").arg(problem));
     QJsonParseError error{};
-    const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
+    const QJsonDocument document = QJsonDocument::fromJson(content, &error);
     if (error.error != QJsonParseError::NoError)
         fail(path, QStringLiteral("not valid JSON at offset %1: %2")
                        .arg(error.offset)
@@ -139,8 +152,16 @@ void CFxUIJsonReader::readGroup(const QJsonObject& json, const QString& path)
                QStringLiteral("editable"), QStringLiteral("menus"), QStringLiteral("items"),
                QStringLiteral("tabs"), QStringLiteral("panels"), QStringLiteral("commands"),
                QStringLiteral("applicationMenu")});
-    CFxUIGroup* group = m_ui.CreateMenuGroup(string(json, QStringLiteral("id"), path, true));
+    const QString id = string(json, QStringLiteral("id"), path, true);
+    claim(m_groupPaths, id, path, "group");
+    CFxUIGroup* group = m_ui.CreateMenuGroup(id);
     group->SetMainGroup(boolean(json, QStringLiteral("main"), path));
+    if (group->IsMainGroup()) {
+        if (!m_mainGroupPath.isEmpty())
+            fail(path,
+                 QStringLiteral("a second main group (the first is %1)").arg(m_mainGroupPath));
+        m_mainGroupPath = path;
+    }
     group->SetEditable(boolean(json, QStringLiteral("editable"), path));
     if (boolean(json, QStringLiteral("reference"), path)) {
         if (m_ui.GetReferenceMenuGroup())
@@ -155,7 +176,7 @@ void CFxUIJsonReader::readGroup(const QJsonObject& json, const QString& path)
                   [&](const QJsonObject& menu, const QString& at) { readMenu(menu, at, *group); });
     forEachObject(json, QStringLiteral("tabs"), path,
                   [&](const QJsonObject& tab, const QString& at) {
-                      group->GetRibbonTabs().Append(readTab(tab, at, *group));
+                      group->GetRibbonTabs().AppendNew(readTab(tab, at, *group));
                   });
     forEachObject(json, QStringLiteral("applicationMenu"), path,
                   [&](const QJsonObject& item, const QString& at) {
@@ -167,8 +188,9 @@ void CFxUIJsonReader::readMenu(const QJsonObject& json, const QString& path, CFx
 {
     checkKeys(json, path,
               {QStringLiteral("id"), QStringLiteral("text"), QStringLiteral("entries")});
-    CFxUIPullDownMenu* menu =
-        m_ui.CreatePullDownMenu(string(json, QStringLiteral("id"), path, true));
+    const QString id = string(json, QStringLiteral("id"), path, true);
+    claim(m_menuPaths[key(group.GetIdentifier().toQString())], id, path, "menu in the group");
+    CFxUIPullDownMenu* menu = m_ui.CreatePullDownMenu(id);
     menu->SetText(string(json, QStringLiteral("text"), path));
     group.GetPullDownMenus().Append(menu);
     forEachObject(json, QStringLiteral("entries"), path,
@@ -197,7 +219,10 @@ CFxUIRibbonTab* CFxUIJsonReader::readTab(const QJsonObject& json, const QString&
     checkKeys(json, path,
               {QStringLiteral("id"), QStringLiteral("caption"), QStringLiteral("listCaption"),
                QStringLiteral("panels")});
-    CFxUIRibbonTab* tab = m_ui.CreateRibbonTab(string(json, QStringLiteral("id"), path, true));
+    const QString id = string(json, QStringLiteral("id"), path, true);
+    claim(m_tabPaths, id, path, "tab");
+    CFxUIRibbonTab* tab = m_ui.CreateRibbonTab(id);
+    m_tabs.insert(key(id), tab);
     tab->SetCaption(string(json, QStringLiteral("caption"), path));
     tab->SetListCaption(string(json, QStringLiteral("listCaption"), path));
     forEachObject(
@@ -211,8 +236,8 @@ CFxUIRibbonTab* CFxUIJsonReader::readTab(const QJsonObject& json, const QString&
             panel->SetCaption(string(panelJson, QStringLiteral("caption"), at));
             panel->SetCollapsedCaption(string(panelJson, QStringLiteral("collapsedCaption"), at));
             panel->SetLauncher(integer(panelJson, QStringLiteral("launcher"), at));
-            tab->GetPanels().Append(panel);
-            group.GetRibbonPanels().Append(panel);
+            tab->GetPanels().AppendNew(panel);
+            group.GetRibbonPanels().AppendNew(panel);
             forEachObject(
                 panelJson, QStringLiteral("rows"), at,
                 [&](const QJsonObject& rowJson, const QString& rowAt) {
@@ -278,14 +303,19 @@ CFxUICommand* CFxUIJsonReader::readCommand(const QJsonObject& json, const QStrin
                QStringLiteral("actionId"), QStringLiteral("description"),
                QStringLiteral("smallIcon"), QStringLiteral("largeIcon"),
                QStringLiteral("extendedTooltip")});
-    CFxUICommand* command =
-        m_ui.CreateCommand(string(json, QStringLiteral("id"), path, true), owner);
+    const QString id = string(json, QStringLiteral("id"), path, true);
+    if (owner)
+        claim(m_commandPaths[key(owner->GetIdentifier().toQString())], id, path,
+              "command in the group");
+    const QJsonArray small = icons(json, QStringLiteral("smallIcon"), path);
+    const QJsonArray large = icons(json, QStringLiteral("largeIcon"), path);
+    CFxUICommand* command = m_ui.CreateCommand(id, owner);
+    if (owner)
+        m_commands[key(owner->GetIdentifier().toQString())].insert(key(id), command);
     command->SetName(string(json, QStringLiteral("name"), path));
     command->SetMacro(string(json, QStringLiteral("macro"), path));
     command->SetActionId(string(json, QStringLiteral("actionId"), path));
     command->SetDescription(string(json, QStringLiteral("description"), path));
-    const QJsonArray small = array(json, QStringLiteral("smallIcon"), path);
-    const QJsonArray large = array(json, QStringLiteral("largeIcon"), path);
     command->SetSmallIcon(small.at(0).toString(), small.at(1).toString());
     command->SetLargeIcon(large.at(0).toString(), large.at(1).toString());
     return command;
@@ -300,10 +330,12 @@ CFxUICommand* CFxUIJsonReader::readAttachedCommand(const QJsonValue& json, const
         return readCommand(json.toObject(), path + QStringLiteral("/command"), nullptr);
     if (!json.isString())
         fail(path, QStringLiteral("'command' must be a command's identifier or a command"));
+    const QString commandKey = key(json.toString());
     for (CFxUIGroup* candidate : m_ui.GetMenuGroups()) {
         if (group && candidate != group)
             continue;
-        if (CFxUICommand* command = m_ui.FindCommand(candidate->GetIdentifier(), json.toString()))
+        if (CFxUICommand* command =
+                m_commands.value(key(candidate->GetIdentifier().toQString())).value(commandKey))
             return command;
     }
     fail(path, QStringLiteral("no command '%1' in the group's commands").arg(json.toString()));
@@ -316,16 +348,32 @@ void CFxUIJsonReader::readWorkspace(const QJsonObject& json, const QString& path
         m_ui.CreateWorkspace(string(json, QStringLiteral("name"), path, true));
     m_ui.GetWorkspaces().Append(workspace);
     const QJsonArray tabs = array(json, QStringLiteral("tabs"), path);
+    QSet<const CFxUIRibbonTab*> listed;
     for (const QJsonValue& tabId : tabs) {
-        CFxUIRibbonTab* found = nullptr;
-        for (const CFxUIGroup* group : m_ui.GetMenuGroups()) {
-            for (CFxUIRibbonTab* tab : group->GetRibbonTabs()) {
-                if (!found && tab->GetIdentifier().equalNoCase(tabId.toString()))
-                    found = tab;
-            }
-        }
+        CFxUIRibbonTab* found = m_tabs.value(key(tabId.toString()));
         if (!found)
             fail(path, QStringLiteral("no tab '%1' in any group").arg(tabId.toString()));
-        workspace->GetRibbonTabs().Append(found);
+        // A tab named again moves to its new place, as in any list of the model.
+        if (listed.contains(found))
+            workspace->GetRibbonTabs().Append(found);
+        else
+            workspace->GetRibbonTabs().AppendNew(found);
+        listed.insert(found);
     }
+}
+
+void CFxUIJsonReader::claim(QHash<QString, QString>& seen, const QString& identifier,
+                            const QString& path, const char* what)
+{
+    const auto first = seen.constFind(key(identifier));
+    if (first != seen.constEnd())
+        fail(path, QStringLiteral("a second %1 '%2' (the first is %3)")
+                       .arg(QLatin1String(what), identifier, *first));
+    seen.insert(key(identifier), path);
+}
+
+QString CFxUIJsonReader::key(const QString& identifier)
+{
+    // The host finds objects by their identifiers without regard to letter case.
+    return identifier.toCaseFolded();
 }

@@ -1,5 +1,6 @@
 #include "CFxUIJsonWriter.h"
 
+#include "CFxJsonTextWriter.h"
 #include "CFxUI.h"
 
 #include <QJsonArray>
@@ -206,4 +207,274 @@ QJsonObject CFxUIJsonWriter::write(const CFxUI& ui)
     return {{QStringLiteral("groups"), groups},
             {QStringLiteral("workspaces"), workspaces},
             {QStringLiteral("ribbonSystemMenu"), systemMenu}};
+}
+
+// The text: keys in each object in QJsonObject's (sorted) order.
+namespace {
+void writeIcons(CFxJsonTextWriter& out, const CFxString& first, const CFxString& second)
+{
+    out.beginArray();
+    out.value(text(first));
+    out.value(text(second));
+    out.endArray();
+}
+
+void writeCommand(CFxJsonTextWriter& out, const CFxUICommand& command)
+{
+    out.beginObject();
+    out.key("actionId");
+    out.value(text(command.GetActionId()));
+    out.key("description");
+    out.value(text(command.GetDescription()));
+    out.key("extendedTooltip");
+    out.value(command.GetExtendedTooltip() != nullptr);
+    out.key("id");
+    out.value(text(command.GetIdentifier()));
+    out.key("largeIcon");
+    writeIcons(out, command.GetLargeIcon(0), command.GetLargeIcon(1));
+    out.key("macro");
+    out.value(text(command.GetMacro()));
+    out.key("name");
+    out.value(text(command.GetName()));
+    out.key("smallIcon");
+    writeIcons(out, command.GetSmallIcon(0), command.GetSmallIcon(1));
+    out.endObject();
+}
+
+void writeAttachedCommand(CFxJsonTextWriter& out, const CFxUICommand* command,
+                          const CFxUIGroup* group)
+{
+    if (!command)
+        out.null();
+    else if (group && group->GetCommands().Contains(command))
+        out.value(text(command->GetIdentifier()));
+    else
+        writeCommand(out, *command);
+}
+
+template <class T>
+void writeIdentifiers(CFxJsonTextWriter& out, const CFxUIList<T>& list)
+{
+    out.beginArray();
+    for (const T* item : list)
+        out.value(text(item->GetIdentifier()));
+    out.endArray();
+}
+
+// "buttons" comes first among a button's keys: a button is opened, its sub-buttons written
+// (with a stack of its own), and then its other fields.
+void writeButtonTree(CFxJsonTextWriter& out, const CFxUIRibbonButton& root, const CFxUIGroup& group)
+{
+    struct Open
+    {
+        const CFxUIRibbonButton* button;
+        int next;
+    };
+    const auto open = [&out](const CFxUIRibbonButton* button) {
+        out.beginObject();
+        out.key("buttons");
+        out.beginArray();
+        return Open{button, 0};
+    };
+    std::vector<Open> stack{open(&root)};
+    while (!stack.empty()) {
+        Open& top = stack.back();
+        if (const CFxUIRibbonButton* sub = top.button->GetSubButtons().GetAt(top.next)) {
+            ++top.next;
+            stack.push_back(open(sub));
+            continue;
+        }
+        const CFxUIRibbonButton& button = *top.button;
+        stack.pop_back();
+        out.endArray();
+        out.key("command");
+        writeAttachedCommand(out, button.GetCommand(), &group);
+        out.key("displayStyle");
+        out.value(button.GetDisplayStyle());
+        out.key("id");
+        out.value(text(button.GetIdentifier()));
+        out.key("kind");
+        out.value(QString::fromLatin1(buttonKind(button.GetKind())));
+        out.key("splitBehavior");
+        out.value(button.GetSplitBehavior());
+        out.key("splitStyle");
+        out.value(button.GetSplitStyle());
+        out.key("text");
+        out.value(text(button.GetText()));
+        out.endObject();
+    }
+}
+
+// Sub-items come between an item's "id" and "separator": the same walk as for buttons.
+void writeSystemMenuItems(CFxJsonTextWriter& out, const CFxUIList<CFxUIRibbonSystemMenuItem>& items,
+                          const CFxUIGroup* group)
+{
+    struct Open
+    {
+        const CFxUIList<CFxUIRibbonSystemMenuItem>* items;
+        const CFxUIRibbonSystemMenuItem* item; // null for the outermost list
+        int next;
+    };
+    out.beginArray();
+    std::vector<Open> stack{{&items, nullptr, 0}};
+    while (!stack.empty()) {
+        Open& top = stack.back();
+        if (const CFxUIRibbonSystemMenuItem* sub = top.items->GetAt(top.next)) {
+            ++top.next;
+            out.beginObject();
+            out.key("command");
+            writeAttachedCommand(out, sub->GetCommand(), group);
+            out.key("id");
+            out.value(text(sub->GetIdentifier()));
+            out.key("items");
+            out.beginArray();
+            stack.push_back({&sub->GetSubItems(), sub, 0});
+            continue;
+        }
+        const CFxUIRibbonSystemMenuItem* item = top.item;
+        stack.pop_back();
+        out.endArray();
+        if (!item)
+            break;
+        out.key("separator");
+        out.value(item->IsSeparator());
+        out.key("text");
+        out.value(text(item->GetText()));
+        out.endObject();
+    }
+}
+
+void writeTab(CFxJsonTextWriter& out, const CFxUIRibbonTab& tab, const CFxUIGroup& group)
+{
+    out.beginObject();
+    out.key("caption");
+    out.value(text(tab.GetCaption()));
+    out.key("id");
+    out.value(text(tab.GetIdentifier()));
+    out.key("listCaption");
+    out.value(text(tab.GetListCaption()));
+    out.key("panels");
+    out.beginArray();
+    for (const CFxUIRibbonPanel* panel : tab.GetPanels()) {
+        out.beginObject();
+        out.key("caption");
+        out.value(text(panel->GetCaption()));
+        out.key("collapsedCaption");
+        out.value(text(panel->GetCollapsedCaption()));
+        out.key("id");
+        out.value(text(panel->GetIdentifier()));
+        out.key("launcher");
+        out.value(panel->GetLauncher());
+        out.key("rows");
+        out.beginArray();
+        for (const CFxUIRibbonRow* row : panel->GetRows()) {
+            out.beginObject();
+            out.key("buttons");
+            out.beginArray();
+            for (const CFxUIRibbonButton* button : row->GetButtons())
+                writeButtonTree(out, *button, group);
+            out.endArray();
+            out.key("id");
+            out.value(text(row->GetIdentifier()));
+            out.endObject();
+        }
+        out.endArray();
+        out.endObject();
+    }
+    out.endArray();
+    out.endObject();
+}
+
+void writeMenu(CFxJsonTextWriter& out, const CFxUIPullDownMenu& menu)
+{
+    out.beginObject();
+    out.key("entries");
+    out.beginArray();
+    for (const CFxUIMenuEntry* entry : menu.GetEntries()) {
+        const CFxUIMenuItem* item = entry->GetItem();
+        out.beginObject();
+        out.key("id");
+        out.value(text(entry->GetIdentifier()));
+        if (item && item->GetMenuText() != entry->GetText()) {
+            out.key("itemText");
+            out.value(text(item->GetMenuText()));
+        }
+        if (item) {
+            out.key("macro");
+            out.value(text(item->GetMacro()));
+            out.key("statusText");
+            out.value(text(item->GetStatusText()));
+        }
+        out.key("text");
+        out.value(text(entry->GetText()));
+        out.endObject();
+    }
+    out.endArray();
+    out.key("id");
+    out.value(text(menu.GetIdentifier()));
+    out.key("text");
+    out.value(text(menu.GetText()));
+    out.endObject();
+}
+
+void writeGroup(CFxJsonTextWriter& out, const CFxUIGroup& group, const CFxUI& ui)
+{
+    out.beginObject();
+    out.key("applicationMenu");
+    writeSystemMenuItems(out, group.GetApplicationMenu(), &group);
+    out.key("commands");
+    out.beginArray();
+    for (const CFxUICommand* command : group.GetCommands())
+        writeCommand(out, *command);
+    out.endArray();
+    out.key("editable");
+    out.value(group.IsEditable());
+    out.key("id");
+    out.value(text(group.GetIdentifier()));
+    out.key("items");
+    writeIdentifiers(out, group.GetMenuItems());
+    out.key("main");
+    out.value(group.IsMainGroup());
+    out.key("menus");
+    out.beginArray();
+    for (const CFxUIPullDownMenu* menu : group.GetPullDownMenus())
+        writeMenu(out, *menu);
+    out.endArray();
+    out.key("panels");
+    writeIdentifiers(out, group.GetRibbonPanels());
+    out.key("reference");
+    out.value(ui.GetReferenceMenuGroup() == &group);
+    out.key("tabs");
+    out.beginArray();
+    for (const CFxUIRibbonTab* tab : group.GetRibbonTabs())
+        writeTab(out, *tab, group);
+    out.endArray();
+    out.endObject();
+}
+} // namespace
+
+QByteArray CFxUIJsonWriter::writeText(const CFxUI& ui, bool compact)
+{
+    CFxJsonTextWriter out(compact);
+    out.beginObject();
+    out.key("groups");
+    out.beginArray();
+    for (const CFxUIGroup* group : ui.GetMenuGroups())
+        writeGroup(out, *group, ui);
+    out.endArray();
+    out.key("ribbonSystemMenu");
+    writeSystemMenuItems(out, ui.GetRibbonSystemMenu()->GetSubItems(), nullptr);
+    out.key("workspaces");
+    out.beginArray();
+    for (const CFxUIWorkspace* workspace : ui.GetWorkspaces()) {
+        out.beginObject();
+        out.key("name");
+        out.value(text(workspace->GetIdentifier()));
+        out.key("tabs");
+        writeIdentifiers(out, workspace->GetRibbonTabs());
+        out.endObject();
+    }
+    out.endArray();
+    out.endObject();
+    return out.take();
 }

@@ -14,4 +14,8 @@ class FX_KERNEL_EXPORT CFxUIJsonWriter
 {
 public:
     static QJsonObject write(const CFxUI& ui);
+    // The same model as JSON text, byte for byte what QJsonDocument(write(ui)).toJson() gives,
+    // compact or indented; written as the model is walked, without recursion, so that its
+    // cost grows with the model's size however deeply split buttons nest.
+    static QByteArray writeText(const CFxUI& ui, bool compact);
 };

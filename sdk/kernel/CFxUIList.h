@@ -62,6 +62,14 @@ public:
         place(m_items.end(), item);
     }
 
+    // Puts `item` last without looking for it first: only for an object that the list cannot
+    // hold yet (one just made), so that filling a list takes time in proportion to its length.
+    void AppendNew(T* item)
+    {
+        if (item)
+            m_items.push_back(item);
+    }
+
     // Puts `item` right after `anchor`; a null anchor puts it first. An anchor that the list
     // does not hold puts the item last and returns false.
     bool InsertAfter(T* anchor, T* item)

@@ -1,8 +1,19 @@
 #include "OdEventLog.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
+
 #include <utility>
 
 OdEventSink::~OdEventSink() = default;
+
+void OdEventSink::hostTextEvent(const QString& name, const OdEventFields& fields,
+                                const QString& field, const OdJsonText& text)
+{
+    OdEventFields all = fields;
+    all.append({field, QJsonDocument::fromJson(text(true)).object()});
+    hostEvent(name, all);
+}
 
 namespace {
 OdEventSink* g_sink = nullptr;
@@ -22,4 +33,11 @@ void OdEventLog::report(const QString& name, const OdEventFields& fields)
 {
     if (g_sink)
         g_sink->hostEvent(name, fields);
+}
+
+void OdEventLog::report(const QString& name, const OdEventFields& fields, const QString& field,
+                        const OdJsonText& text)
+{
+    if (g_sink)
+        g_sink->hostTextEvent(name, fields, field, text);
 }

@@ -12,4 +12,7 @@ public:
     static OdEventSink* setSink(OdEventSink* sink);
     static OdEventSink* sink();
     static void report(const QString& name, const OdEventFields& fields = {});
+    // An event whose last field, `field`, is an object written only as text (see OdJsonText).
+    static void report(const QString& name, const OdEventFields& fields, const QString& field,
+                       const OdJsonText& text);
 };

@@ -55,6 +55,11 @@ void OdFileStreamBuf::checkRequest(const QString& path, unsigned access, unsigne
         throw OdError(
             toOd(QStringLiteral("cannot open %1: creating or emptying a file needs write access")
                      .arg(path)));
+    // A pipe would block the open or swallow what is written, a device would be read or
+    // written as if it were a drawing: only regular files, or a name not yet taken, are files.
+    const QFileInfo file(path);
+    if (file.exists() && !file.isFile())
+        throw OdError(toOd(QStringLiteral("cannot open %1: not a regular file").arg(path)));
     if (!OdFileShareTable::instance().admits(QFileInfo(path).absoluteFilePath(), access, share))
         throw OdError(toOd(QStringLiteral("cannot open %1: the file is in use").arg(path)));
 }

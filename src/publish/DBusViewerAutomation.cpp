@@ -11,6 +11,9 @@
 namespace Automation = VcModelViewerAutomation;
 
 namespace {
+// Starting a server may start the viewer's process, which takes longer than a call.
+constexpr int kStartTimeoutMs = 10000;
+
 // Strings handed to Qt D-Bus are made on the heap: Qt may keep them after this module is gone.
 QString text(const char* latin1)
 {
@@ -78,7 +81,7 @@ bool DBusViewerAutomation::start(const QString& service)
 {
     QDBusMessage request = busDaemonCall("StartServiceByName");
     request.setArguments({service, 0u});
-    return call(request).type() == QDBusMessage::ReplyMessage;
+    return call(request, kStartTimeoutMs).type() == QDBusMessage::ReplyMessage;
 }
 
 QString DBusViewerAutomation::applicationPath(const QString& service)
@@ -107,7 +110,7 @@ bool DBusViewerAutomation::hasInterface(const QString& service, const QString& p
         QString::fromLatin1("<interface name=\"%1\"").arg(text(interface)));
 }
 
-QDBusMessage DBusViewerAutomation::call(const QDBusMessage& message)
+QDBusMessage DBusViewerAutomation::call(const QDBusMessage& message, int timeoutMs)
 {
-    return QDBusConnection::sessionBus().call(message);
+    return QDBusConnection::sessionBus().call(message, QDBus::Block, timeoutMs);
 }

@@ -21,5 +21,11 @@ private:
     // The application's object path; empty when the server cannot be created or has none.
     static QString applicationPath(const QString& service);
     static bool hasInterface(const QString& service, const QString& path, const char* interface);
-    static QDBusMessage call(const QDBusMessage& message);
+    // Sends `message` and waits for its reply, at most kCallTimeoutMs unless told otherwise.
+    // Publishing runs on the UI thread, so no call waits for D-Bus's default 25 s; a viewer
+    // that works answers at once, and a call that runs out of time fails as a call to a
+    // missing server does.
+    static QDBusMessage call(const QDBusMessage& message, int timeoutMs = kCallTimeoutMs);
+
+    static constexpr int kCallTimeoutMs = 3000;
 };

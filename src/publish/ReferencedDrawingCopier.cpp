@@ -58,6 +58,10 @@ void ReferencedDrawingCopier::copy(const OdDbGraphNode* node) const
     if (!record)
         return;
     const QString source = referencedFile(*record);
+    // Only a drawing file is copied: QFile::copy would wait for ever on a pipe and copy a
+    // device as an empty file. What is not a file is left out, as a missing file is.
+    if (!QFileInfo(source).isFile())
+        return;
     // QFile::copy never replaces an existing file.
     QFile::copy(source, m_folder + QLatin1Char('/') + QFileInfo(source).fileName());
 }

@@ -10,7 +10,7 @@ class OdDbGraphNode;
 
 // Copies the drawings that a drawing references, directly or through other references, into
 // a folder, each under its own file name. A file that is already there is not overwritten,
-// and a file that is missing is left out.
+// and a file that is missing, or is not a regular file (a pipe, a device), is left out.
 class ReferencedDrawingCopier
 {
 public:

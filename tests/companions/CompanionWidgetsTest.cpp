@@ -158,4 +158,29 @@ TEST_F(CompanionWidgetsTest, TheModuleAndItsConnectorsUnloadCleanlyCycleAfterCyc
     EXPECT_EQ(m_events.events().values("module-unloaded", "module").count("QNTForgeportConnector"),
               10);
 }
+// The switches are read anew for each main window of one session: changed between two windows,
+// the next one follows them.
+TEST_F(CompanionWidgetsTest, SwitchesChangedBetweenTwoMainWindowsApplyToTheNextOne)
+{
+    const auto callsOfWindow = [this](bool collaboration, const QString& networkDisabled) {
+        GetFxSystemServices()->MainFrameDestroyed(m_window.get());
+        QSettings(CFxRegistry::standInFile(), QSettings::IniFormat)
+            .setValue(QStringLiteral("HKEY_LOCAL_MACHINE/SOFTWARE/Corvane/BfxConnectors/"
+                                     "OmniplaneCSEnable"),
+                      collaboration);
+        QSettings(m_home.folders().systemConfig() + QStringLiteral("/Corvane/Quillon.conf"),
+                  QSettings::IniFormat)
+            .setValue(QStringLiteral("Network/premiumnetworkdisable"), networkDisabled);
+        m_events.clear();
+        m_window = std::make_unique<QMainWindow>();
+        GetFxSystemServices()->MainFrameCreated(m_window.get());
+        QStringList calls = m_events.events().values("companion-call", "call");
+        calls.removeAll(QStringLiteral("addXmlTodxf"));
+        return calls;
+    };
+    EXPECT_EQ(callsOfWindow(false, "YES "), QStringList());
+    EXPECT_EQ(callsOfWindow(true, "no"),
+              QStringList({"addiQuestionView", "addQNOmniplaneView", "addTaskPane"}));
+    EXPECT_EQ(callsOfWindow(false, "no"), QStringList({"addiQuestionView", "addTaskPane"}));
+}
 } // namespace

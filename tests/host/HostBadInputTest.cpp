@@ -2,6 +2,8 @@
 // a non-zero exit, and a session that still ends properly.
 #include "HostProcess.h"
 
+#include <QFile>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -71,4 +73,51 @@ TEST_F(HostBadInput, AnUnknownOptionStopsBeforeAnythingStarts)
     EXPECT_TRUE(result.standardError.startsWith(
         "quillon-host: Unknown option 'frobnicate'.\nTry 'quillon-host --help'.\n"))
         << qPrintable(result.standardError);
+}
+
+// A script or a profile that is not text, or too large to be one, is refused before anything of
+// it is used, with the file and the reason named: none of its statements runs.
+TEST_F(HostBadInput, AScriptOrProfileThatIsNotUtf8TextOrTooLargeIsRefused)
+{
+    const auto write = [this](const QString& name, const QByteArray& content, qint64 size = 0) {
+        QFile file(host.home() + '/' + name);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        if (size > 0)
+            EXPECT_TRUE(file.resize(size)); // sparse: nothing of it is written
+        return file.fileName();
+    };
+    const QString nul = write("nul.qs", QByteArray("Home\n\0\nHome\n", 12));
+    const QString utf16 = write("utf16.qs", QByteArray("\xff\xfeH\0o\0m\0e\0\n\0", 12));
+    const QString latin1 = write("latin1.qs", "Home # caf\xe9\nHome\n");
+    const QString huge = write("huge.qs", "Home\n", (64 << 20) + 1);
+    const QString profile = write("nul.json", QByteArray("{}\0", 3));
+    const struct
+    {
+        QStringList arguments;
+        QString message;
+    } cases[] = {
+        {{nul},
+         "cannot read script " + nul + ": it holds a NUL byte (at byte 5), so it is not text"},
+        {{utf16},
+         "cannot read script " + utf16 + ": it holds a NUL byte (at byte 3), so it is not text"},
+        {{latin1}, "cannot read script " + latin1 + ": it is not UTF-8 text"},
+        {{huge}, "cannot read script " + huge + ": it is larger than 67108864 bytes"},
+        {{"/dev/zero"},
+         "cannot read script /dev/zero: it holds a NUL byte (at byte 0), so it is not text"},
+        {{"--ui-profile", "/dev/zero", "-c", "Home"},
+         "UI profile /dev/zero: cannot be read: it holds a NUL byte (at byte 0), so it is not "
+         "text"},
+        {{"--ui-profile", profile, "-c", "Home"},
+         "UI profile " + profile +
+             ": cannot be read: it holds a NUL byte (at byte 2), so it is "
+             "not text"},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.arguments.join(' ').toStdString());
+        const HostResult result = host.run(each.arguments);
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_EQ(result.events.values("error", "message"), QStringList{each.message});
+        EXPECT_EQ(result.events.count("command-ended"), 0);
+    }
 }

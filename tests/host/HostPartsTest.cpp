@@ -1,14 +1,19 @@
 // The host's parts: splitting a script into statements and words, the command line, and how
 // an event is written, as one JSON object per line or one readable line.
 #include "EventPrinter.h"
+#include "EventRecorder.h"
 #include "HostError.h"
 #include "HostOptions.h"
 #include "ScriptParser.h"
+#include "TranslationObserver.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
+#include <QTranslator>
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <vector>
 
 namespace {
@@ -71,7 +76,15 @@ TEST(HostOptionsTest, RefusesBadArgumentsWithAClearMessage)
     EXPECT_EQ(refusal({"--product-version", "2017.0.5"}),
               "--product-version takes four numbers A.B.C.D, not '2017.0.5'");
     EXPECT_EQ(refusal({"--product-version", "2017.0.x.5"}),
-              "--product-version takes a whole number, not 'x'");
+              "--product-version takes whole numbers 0, 1, 2, ..., not 'x'");
+    EXPECT_EQ(refusal({"--product-version", "-1.-2.-3.-4"}),
+              "--product-version takes whole numbers 0, 1, 2, ..., not '-1'");
+    EXPECT_EQ(refusal({"--product-version", "2017.+2.3.4"}),
+              "--product-version takes whole numbers 0, 1, 2, ..., not '+2'");
+    EXPECT_EQ(refusal({"--product-version", "2017.0. 5.1"}),
+              "--product-version takes whole numbers 0, 1, 2, ..., not ' 5'");
+    EXPECT_EQ(refusal({"--product-version", "2017.0.5.99999999999"}),
+              "--product-version takes a whole number, not '99999999999'");
     EXPECT_EQ(refusal({"a.qs", "b.qs"}), "one script at most, not a.qs b.qs");
     EXPECT_EQ(refusal({"a.qs", "-c", "Home"}), "give either a script file or -c TEXT, not both");
 }
@@ -90,4 +103,26 @@ TEST(EventPrinterTest, WritesTheFieldsInTheirOrderAsJsonOrAsReadableText)
               R"(command-ended name=_Home result=5100 args=["a b",1] )"
               R"(path="/my drawings/plan \"A\".dxf" none=null)");
     EXPECT_EQ(EventPrinter::readableLine("mainframe-created", {}), "mainframe-created");
+}
+
+// Each main window installs translators of its own and takes them away again: in a long session
+// the observer keeps only those still installed (a statement costs what is installed, not all
+// that ever was), and still reports each new one, also one made where an old one was.
+TEST(TranslationObserverTest, RemembersOnlyTheTranslatorsStillInstalled)
+{
+    EventRecorder events;
+    TranslationObserver observer;
+    const int before = observer.remembered();
+    for (int window = 0; window < 100; ++window) {
+        std::vector<std::unique_ptr<QTranslator>> translators;
+        for (int i = 0; i < 4; ++i) {
+            translators.push_back(std::make_unique<QTranslator>());
+            QCoreApplication::installTranslator(translators.back().get());
+        }
+        observer.statementEnded();
+        EXPECT_EQ(observer.remembered(), before + 4);
+    }
+    observer.statementEnded();
+    EXPECT_EQ(observer.remembered(), before);
+    EXPECT_EQ(events.events().count("translator-installed"), 400);
 }

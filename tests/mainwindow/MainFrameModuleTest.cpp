@@ -153,13 +153,27 @@ TEST_F(MainFrameTest, WithoutOnlineSupportTheEntriesStayAtTheEndInCreationOrder)
     EXPECT_TRUE(commandKnown(L"CHECKFORUPDATES"));
 }
 
-TEST_F(MainFrameTest, WithoutTheAboutEntryTheSystemMenuStaysAsItWas)
+// The anchors "PMI_330" and "RSYS_ABOUT" are compared exactly: a look-alike in lower case is
+// no anchor, so the Help entries stay at the end and the system menu gets nothing.
+TEST_F(MainFrameTest, WithoutTheExactAnchorsTheEntriesStayAtTheEndAndTheSystemMenuAsItWas)
 {
-    useFixture("no-about");
-    const QStringList systemMenu = model().systemMenu();
-    create();
-    EXPECT_EQ(model().systemMenu(), systemMenu);
-    EXPECT_EQ(help(kMain), QStringList({"PMI_300", "PMI_330", kCheck, kNotes}));
+    const struct
+    {
+        const char* fixture;
+        QStringList help;
+    } cases[] = {
+        {"no-about", {"PMI_300", "PMI_330", kCheck, kNotes}},
+        {"lowercase-anchors", {"PMI_300", "pmi_330", kCheck, kNotes}},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.fixture);
+        useFixture(each.fixture);
+        const QStringList systemMenu = model().systemMenu();
+        create();
+        EXPECT_EQ(model().systemMenu(), systemMenu);
+        EXPECT_EQ(help(kMain), each.help);
+        destroy();
+    }
 }
 
 TEST_F(MainFrameTest, OnlyAMenuCalledExactlyIdMnHelpOutsideTheReferenceGroupIsTheHelpMenu)
@@ -185,5 +199,31 @@ TEST_F(MainFrameTest, LookalikeItemsAreMatchedWithoutCaseAndRemovedByTextInOnePa
     // Of the adjacent items with the release notes' text, the one that moved into the place of
     // its removed neighbour stays.
     EXPECT_EQ(help(kMain), QStringList({"PMI_300", "id_CheckForUpdates", "PMI_902", "PMI_330"}));
+}
+// The module hears only of the windows made while it is loaded: a destroy without a create takes
+// nothing out, a window that stood before the module came gets nothing, and what the module put
+// into a window stays in the model when the module is unloaded before the window goes.
+TEST_F(MainFrameTest, OnlyWindowsMadeWhileLoadedGetTheEntriesAndKeepThemAfterTheUnload)
+{
+    const UiModel host = model();
+    destroy();
+    EXPECT_EQ(help(kQuillon), host.menuEntryIds(kQuillon));
+    EXPECT_EQ(model().systemMenu(), host.systemMenu());
+    EXPECT_EQ(m_events.events().count("command-removed"), 0);
+
+    m_module.reset();
+    create();
+    m_module = std::make_unique<LoadedModule>();
+    EXPECT_EQ(help(kQuillon), host.menuEntryIds(kQuillon));
+    EXPECT_EQ(model().systemMenu(), host.systemMenu());
+    EXPECT_FALSE(commandKnown(L"CHECKFORUPDATES"));
+
+    create();
+    const UiModel created = model();
+    ASSERT_NE(created.menuEntryIds(kQuillon), host.menuEntryIds(kQuillon));
+    m_module.reset();
+    EXPECT_EQ(help(kQuillon), created.menuEntryIds(kQuillon));
+    EXPECT_EQ(model().groupItems(kQuillon), created.groupItems(kQuillon));
+    EXPECT_EQ(model().systemMenu(), created.systemMenu());
 }
 } // namespace

@@ -42,6 +42,11 @@ const Language kLanguages[] = {
     {0, "de_DE", "/german", "de_DE", "german", kGerman},
     {0, "zh_TW", "/chinese/QObject::traditional", "zh_CN", "chinese/QObject::traditional",
      kTraditional},
+    // Chinese of any country but China is traditional Chinese, not only Taiwan's.
+    {0, "zh_HK", "/chinese/QObject::traditional", "zh_CN", "chinese/QObject::traditional",
+     kTraditional},
+    {0, "zh_SG", "/chinese/QObject::traditional", "zh_CN", "chinese/QObject::traditional",
+     kTraditional},
     {0, "zh_CN", "/chinese/simplified", "zh_CN", "chinese/simplified", kSimplified},
     {0, "sv_SE", "", "en_US", "", kEnglish},
     {0, "C", "/", "C", "", kEnglish},
@@ -117,6 +122,22 @@ TEST_P(LanguageTest, SetsTheLocaleInstallsTheTranslatorsAndOpensThePagesOfTheLan
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryLanguage, LanguageTest, ::testing::ValuesIn(kLanguages));
+
+// Each main window installs a set of translators of its own; the sets of earlier windows stay.
+TEST(SecondMainWindowTest, InstallsASecondSetOfTranslatorsAndKeepsTheLanguage)
+{
+    HostProcess host;
+    const HostResult result = host.runScript(
+        "mainframe create; mainframe destroy; mainframe create; ui", arguments(1, "zh_TW"));
+    ASSERT_EQ(result.exitCode, 0) << result.standardError.toStdString();
+    const QString folder = HostProcess::stageFolder() + "/messages/german/";
+    const QStringList set{folder + "GCode.qm", folder + "recentdocumentbrowser.qm",
+                          folder + "QuillonOmniplaneConnector.qm",
+                          folder + "QNTForgeportConnector.qm"};
+    EXPECT_EQ(result.events.values("translator-installed", "file"), set + set);
+    EXPECT_EQ(result.events.values("default-locale", "name"), QStringList({"de_DE", "de_DE"}));
+    EXPECT_EQ(checkForUpdatesText(result), QString::fromUtf8(kGerman));
+}
 
 // The host looks for translations beside its program: the test runs a program folder of its
 // own (the host hard-linked or copied, the libraries linked) with the messages it chooses.

@@ -9,6 +9,7 @@
 
 #include <OdError.h>
 #include <OdRxSystemServices.h>
+#include <sys/stat.h>
 
 namespace {
 class FileServices : public ::testing::Test
@@ -115,5 +116,25 @@ TEST_F(FileServices, AccessAndSharingAreHonouredAndAWrittenFileIsReportedWhenClo
     writing.release();
     EXPECT_EQ(m_events.events().values(QStringLiteral("file-written"), QStringLiteral("path")),
               QStringList{path("data")});
+}
+
+// A pipe or a device under the file's name is never written into, whatever the disposition:
+// what went into a pipe would be lost, and a larger write would block for ever.
+TEST_F(FileServices, WhatIsNotARegularFileIsRefusedForEveryRequest)
+{
+    ASSERT_EQ(::mkfifo(qPrintable(path("pipe.dxf")), 0600), 0);
+    for (const QString& file : {path("pipe.dxf"), QStringLiteral("/dev/null")}) {
+        for (unsigned disposition = Oda::kCreateNew; disposition <= Oda::kTruncateExisting;
+             ++disposition) {
+            SCOPED_TRACE(testing::Message() << qPrintable(file) << ' ' << disposition);
+            try {
+                put(create(file, Oda::kFileWrite, Oda::kShareDenyNo, disposition), "new");
+                ADD_FAILURE() << "written";
+            } catch (const OdError& error) {
+                EXPECT_TRUE(QString::fromUtf8(error.what()).contains(file)) << error.what();
+            }
+        }
+    }
+    EXPECT_EQ(m_events.events().count(QStringLiteral("file-written")), 0);
 }
 } // namespace

@@ -4,10 +4,15 @@
     site/plan.dxf         a small floor plan without references
     site/café.dxf, site/平面.dxf
                           the same plan under names within and beyond Latin-1
-    tree/main.dxf         references parts/a.dxf and missing.dxf (which is not there)
-    tree/parts/a.dxf      references ../shared/b.dxf and, by its absolute path, tree/c.dxf
-    tree/shared/b.dxf     references ../main.dxf and ..\\parts\\a.dxf: both circular
-    tree/c.dxf            a drawing without references
+    tree/main.dxf         references parts/a.dxf, missing.dxf (which is not there), pipe.dxf
+                          and /dev/zero (which are not files: the test makes the pipe),
+                          other/b.dxf (a second b.dxf) and parts/部品 ß.dxf
+    tree/parts/a.dxf      references ../shared/b.dxf and, by their absolute paths, tree/c.dxf
+                          and tree/far/e.dxf
+    tree/shared/b.dxf     references ../main.dxf and ..\\parts\\a.dxf (both circular), and
+                          ..\\side\\f.dxf
+    tree/c.dxf, tree/far/e.dxf, tree/side/f.dxf, tree/other/b.dxf, tree/parts/部品 ß.dxf
+                          drawings without references
 """
 import pathlib
 import sys
@@ -42,10 +47,18 @@ def main() -> None:
     save(out / "site" / "plan.dxf", "PLAN")
     save(out / "site" / "café.dxf", "PLAN")
     save(out / "site" / "平面.dxf", "PLAN")
-    save(tree / "main.dxf", "MAIN", [("PARTA", "parts/a.dxf"), ("GONE", "missing.dxf")])
-    save(tree / "parts" / "a.dxf", "A", [("SHARED", "../shared/b.dxf"), ("DETAIL", str(tree / "c.dxf"))])
-    save(tree / "shared" / "b.dxf", "B", [("BACK", "../main.dxf"), ("AGAIN", "..\\parts\\a.dxf")])
+    save(tree / "main.dxf", "MAIN", [("PARTA", "parts/a.dxf"), ("GONE", "missing.dxf"),
+                                     ("PIPE", "pipe.dxf"), ("DEVICE", "/dev/zero"),
+                                     ("OTHERB", "other/b.dxf"), ("WIDE", "parts/部品 ß.dxf")])
+    save(tree / "parts" / "a.dxf", "A", [("SHARED", "../shared/b.dxf"), ("DETAIL", str(tree / "c.dxf")),
+                                         ("FAR", str(tree / "far" / "e.dxf"))])
+    save(tree / "shared" / "b.dxf", "B", [("BACK", "../main.dxf"), ("AGAIN", "..\\parts\\a.dxf"),
+                                          ("SIDE", "..\\side\\f.dxf")])
     save(tree / "c.dxf", "C")
+    save(tree / "far" / "e.dxf", "E")
+    save(tree / "side" / "f.dxf", "F")
+    save(tree / "other" / "b.dxf", "OTHER B")
+    save(tree / "parts" / "部品 ß.dxf", "WIDE")
 
 
 if __name__ == "__main__":

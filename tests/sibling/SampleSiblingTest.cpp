@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QRegularExpression>
 
 #include <gtest/gtest.h>
 
@@ -111,8 +112,11 @@ TEST(SampleSibling, BuiltFromTheInstalledPackageDrivesTheRibbonAndTheExportTable
     writeFile(host, "others.json", json({record("ID_GCODE_ITEM"), record("ID_DRAWCOMPARE_ITEM")}));
     writeFile(host, "good.json", json({record("ID_SIBLING_GOOD")}));
     writeFile(host, "unknown.json", "[{\"id\": \"X\",\n \"colour\": \"red\"}]");
+    writeFile(host, "nul.json", QByteArray("[]\0[", 4) + json({record("ID_AFTER_NUL")}) + "]");
+    writeFile(host, "latin1.json", "[{\"text\": \"caf\xe9\"}]");
     const HostResult result =
         runWithSample(host, "SAMPLELOAD; SAMPLELOAD unknown.json; SAMPLELOAD good.json first\n"
+                            "SAMPLELOAD nul.json; SAMPLELOAD latin1.json; SAMPLELOAD /dev/zero\n"
                             "SAMPLEVISIBILITY ID_VL_OPEN yes\n"
                             "SAMPLELOAD vaultline.json 7; SAMPLELOAD others.json -3\n"
                             "SAMPLEVISIBILITY ID_VL_OPEN 0; SAMPLEEXPORTTABLE load; ui\n"
@@ -125,6 +129,11 @@ TEST(SampleSibling, BuiltFromTheInstalledPackageDrivesTheRibbonAndTheExportTable
                   "SAMPLELOAD: unknown.json is not a list of ribbon records: line 2, column 12: "
                   "a record has no field \"colour\"",
                   "SAMPLELOAD: the position must be a whole number",
+                  "SAMPLELOAD: cannot read nul.json: it holds a NUL byte (at byte 2), so it is "
+                  "not text",
+                  "SAMPLELOAD: cannot read latin1.json: it is not UTF-8 text",
+                  "SAMPLELOAD: cannot read /dev/zero: it holds a NUL byte (at byte 0), so it is "
+                  "not text",
                   "SAMPLEVISIBILITY: answer 0 to hide the entry or 1 to show it",
                   "SAMPLELOAD: 1 records loaded",
                   "SAMPLELOAD: 2 records loaded",
@@ -179,7 +188,7 @@ TEST(SampleSibling, HostSurvivesOrderedButtonsUnloadedInAnotherCaseOrLoadedIntoA
 TEST(SampleSibling, HostSurvivesEmptyRecordsThousandsOfButtonsAndRecordsThousandsDeep)
 {
     constexpr int count = 2000;
-    constexpr int depth = 5000;
+    constexpr int depth = 20000;
     HostProcess host;
     QJsonObject empty;
     for (const char* key : {"text", "id", "rowId", "tabText", "tabId", "panelText", "panelId",
@@ -206,7 +215,7 @@ TEST(SampleSibling, HostSurvivesEmptyRecordsThousandsOfButtonsAndRecordsThousand
     const HostResult result = runWithSample(
         host, "SAMPLELOAD empty.json\n"
               "SAMPLELOAD many.json; SAMPLEVISIBILITY ID_MANY_0 0; SAMPLEUNLOAD ID_MANY_7\n"
-              "SAMPLELOAD deep.json; SAMPLEUNLOAD ID_SIBLING_DEEP; ui");
+              "SAMPLELOAD deep.json; ui; SAMPLEUNLOAD ID_SIBLING_DEEP; ui");
     ASSERT_TRUE(ranCleanly(result));
     EXPECT_EQ(result.events.values("command-output", "text"),
               (QStringList{"SAMPLELOAD: 4 records loaded", "SAMPLELOAD: 2000 records loaded",
@@ -222,4 +231,12 @@ TEST(SampleSibling, HostSurvivesEmptyRecordsThousandsOfButtonsAndRecordsThousand
     EXPECT_TRUE(commands.contains(QStringLiteral("ID_DEEP_%1").arg(depth - 1)))
         << "every level had its command made";
     EXPECT_FALSE(commands.contains("ID_SIBLING_DEEP")) << "unloading deleted the top one";
+
+    // The model with every level in it, deeper than Qt reads JSON: checked as text.
+    const QStringList uiLines = result.output.filter(QRegularExpression("^\\{\"event\":\"ui\","));
+    ASSERT_EQ(uiLines.size(), 2);
+    const QString& deepest = uiLines[0];
+    EXPECT_GT(deepest.count("{\"buttons\":["), depth);
+    EXPECT_TRUE(deepest.contains(QStringLiteral("\"id\":\"ID_DEEP_%1\"").arg(depth - 1)));
+    EXPECT_TRUE(deepest.endsWith("]}}")) << qPrintable(deepest.right(80));
 }

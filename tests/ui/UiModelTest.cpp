@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <CFxJsonTextWriter.h>
 #include <CFxUI.h>
 #include <CFxUIJsonReader.h>
 #include <CFxUIJsonWriter.h>
@@ -148,8 +149,7 @@ TEST(UiProfile, TheDefaultProfileLinksItsObjectsAndSurvivesWritingAndReading)
     const CFxUIWorkspace* drafting = ui.FindWorkspace("drafting and annotation");
     ASSERT_NE(drafting, nullptr);
     EXPECT_TRUE(main->GetRibbonTabs().Contains(drafting->GetRibbonTabs().GetAt(0)));
-    const CFxUIRibbonRow* row =
-        main->GetRibbonTabs().GetAt(0)->GetPanels().GetAt(0)->GetRows().GetAt(0);
+    CFxUIRibbonRow* row = main->GetRibbonTabs().GetAt(0)->GetPanels().GetAt(0)->GetRows().GetAt(0);
     EXPECT_TRUE(main->GetCommands().Contains(row->GetButtons().GetAt(0)->GetCommand()));
 
     // An attached command outside any command list, and a separator, must survive the trip.
@@ -161,7 +161,21 @@ TEST(UiProfile, TheDefaultProfileLinksItsObjectsAndSurvivesWritingAndReading)
     rsm->GetSubItems().Append(ui.CreateRibbonSystemMenuItem("ID_SEPARATOR"));
     rsm->GetSubItems().Append(extra);
 
+    // Split buttons nested, texts that JSON must escape, lists left empty.
+    CFxUIRibbonButton* split = ui.CreateRibbonButton(CFxUIRibbonButton::kSplit, "ID_SPLIT");
+    split->SetText("tab\t\"quote\" back\\ bell\x07 café 平面");
+    split->GetSubButtons().Append(ui.CreateRibbonButton(CFxUIRibbonButton::kSplit, "ID_INNER"));
+    split->GetSubButtons().GetAt(0)->GetSubButtons().Append(
+        ui.CreateRibbonButton(CFxUIRibbonButton::kCommand, "ID_LEAF"));
+    split->GetSubButtons().GetAt(0)->GetSubButtons().GetAt(0)->AttachCommand(unlisted);
+    row->GetButtons().Append(split);
+    ui.GetMenuGroups().Append(ui.CreateMenuGroup("EMPTY"));
+
     const QJsonObject written = CFxUIJsonWriter::write(ui);
+    for (const auto format : {QJsonDocument::Compact, QJsonDocument::Indented})
+        EXPECT_EQ(CFxUIJsonWriter::writeText(ui, format == QJsonDocument::Compact),
+                  QJsonDocument(written).toJson(format))
+            << format;
     CFxUI reread;
     CFxUIJsonReader::read(written, reread);
     EXPECT_EQ(CFxUIJsonWriter::write(reread), written);
@@ -188,6 +202,21 @@ TEST(UiProfile, ErrorsNameThePlaceInTheProfileOrTheFile)
         {R"({"workspaces":[{"name":"W","tabs":["ID_NOTAB"]}]})", "/workspaces/0",
          "no tab 'ID_NOTAB'"},
         {R"({"menus":[]})", "/", "unknown field 'menus'"},
+        // What the host looks up by identifier, in any letter case, is there once.
+        {R"({"groups":[{"id":"G"},{"id":"g"}]})", "/groups/1",
+         "a second group 'g' (the first is /groups/0)"},
+        {R"({"groups":[{"id":"A","main":true},{"id":"B"},{"id":"C","main":true}]})", "/groups/2",
+         "a second main group (the first is /groups/0)"},
+        {R"({"groups":[{"id":"G","commands":[{"id":"C"},{"id":"D"},{"id":"c"}]}]})",
+         "/groups/0/commands/2",
+         "a second command in the group 'c' (the first is "
+         "/groups/0/commands/0)"},
+        {R"({"groups":[{"id":"A","tabs":[{"id":"T"}]},{"id":"B","tabs":[{"id":"t"}]}]})",
+         "/groups/1/tabs/0", "a second tab 't' (the first is /groups/0/tabs/0)"},
+        {R"({"groups":[{"id":"G","menus":[{"id":"M"},{"id":"M"}]}]})", "/groups/0/menus/1",
+         "a second menu in the group 'M' (the first is /groups/0/menus/0)"},
+        {R"({"groups":[{"id":"G","commands":[{"id":"C","largeIcon":["a","b","c"]}]}]})",
+         "/groups/0/commands/0", "'largeIcon' holds 3 icons"},
     };
     for (const auto& bad : cases) {
         CFxUI ui;
@@ -208,4 +237,74 @@ TEST(UiProfile, ErrorsNameThePlaceInTheProfileOrTheFile)
         const QString error = errorOf([&] { CFxUIJsonReader::readFile(bad.first, ui); });
         EXPECT_TRUE(error.startsWith(bad.first + ": " + bad.second)) << qPrintable(error);
     }
+}
+
+// Groups may share command and menu identifiers; a large profile is read whole, each workspace
+// tab and each attached command found by its identifier.
+TEST(UiProfile, ThousandsOfTabsAndCommandsAreReadAndFoundByIdentifier)
+{
+    constexpr int tabCount = 20000;
+    constexpr int commandCount = 100000;
+    QJsonArray commands, tabs, workspaceTabs;
+    for (int i = 0; i < commandCount; ++i)
+        commands.append(QJsonObject{{"id", QString("ID_C%1").arg(i)}});
+    for (int i = 0; i < tabCount; ++i) {
+        const QJsonObject button{{"id", "B"}, {"command", QString("id_c%1").arg(i * 5 + 4)}};
+        const QJsonObject row{{"id", "R"}, {"buttons", QJsonArray{button}}};
+        const QJsonObject panel{{"id", QString("P%1").arg(i)}, {"rows", QJsonArray{row}}};
+        tabs.append(QJsonObject{{"id", QString("T%1").arg(i)}, {"panels", QJsonArray{panel}}});
+        workspaceTabs.prepend(QString("t%1").arg(i));
+    }
+    const QJsonArray sibling{QJsonObject{{"id", "ID_C0"}}};
+    const QJsonObject profile{
+        {"groups", QJsonArray{QJsonObject{{"id", "MAIN"},
+                                          {"main", true},
+                                          {"commands", commands},
+                                          {"menus", QJsonArray{QJsonObject{{"id", "M"}}}},
+                                          {"tabs", tabs}},
+                              QJsonObject{{"id", "SIBLING"},
+                                          {"commands", sibling},
+                                          {"menus", QJsonArray{QJsonObject{{"id", "M"}}}}}}},
+        {"workspaces", QJsonArray{QJsonObject{{"name", "W"}, {"tabs", workspaceTabs}}}}};
+
+    CFxUI ui;
+    CFxUIJsonReader::read(profile, ui);
+    const CFxUIWorkspace* workspace = ui.FindWorkspace("W");
+    ASSERT_NE(workspace, nullptr);
+    ASSERT_EQ(workspace->GetRibbonTabs().GetCount(), tabCount);
+    for (int i : {0, 1, tabCount / 2, tabCount - 1}) {
+        const CFxUIRibbonTab* tab = workspace->GetRibbonTabs().GetAt(tabCount - 1 - i);
+        EXPECT_EQ(tab->GetIdentifier().toQString(), QString("T%1").arg(i));
+        const CFxUIRibbonButton* button =
+            tab->GetPanels().GetAt(0)->GetRows().GetAt(0)->GetButtons().GetAt(0);
+        EXPECT_EQ(button->GetCommand()->GetIdentifier().toQString(),
+                  QString("ID_C%1").arg(i * 5 + 4));
+    }
+    EXPECT_EQ(mainGroup(ui)->GetCommands().GetCount(), commandCount);
+}
+
+// Indented text of a document nested far deeper than any model stays valid JSON, but its lines
+// stop moving right, so that its size grows with the document's and not with its square.
+TEST(JsonText, DeepDocumentsAreIndentedOnlySoFar)
+{
+    constexpr int depth = 200;
+    QByteArray texts[2];
+    for (bool compact : {true, false}) {
+        CFxJsonTextWriter out(compact);
+        for (int i = 0; i < depth; ++i) {
+            out.beginObject();
+            out.key("next");
+        }
+        out.value(QStringLiteral("end"));
+        for (int i = 0; i < depth; ++i)
+            out.endObject();
+        texts[compact] = out.take();
+    }
+    QJsonParseError error{};
+    EXPECT_EQ(QJsonDocument::fromJson(texts[false], &error), QJsonDocument::fromJson(texts[true]))
+        << qPrintable(error.errorString());
+    int widest = 0;
+    for (const QByteArray& line : texts[false].split('\n'))
+        widest = std::max(widest, static_cast<int>(line.size() - line.trimmed().size()));
+    EXPECT_EQ(widest, 4 * int(CFxJsonTextWriter::kMaxIndentLevel));
 }
