@@ -3,8 +3,6 @@
 #include <QFileInfo>
 #include <QString>
 
-#include <string>
-
 #if defined(_WIN32)
 #include <windows.h>
 #else
@@ -39,21 +37,16 @@ void OdSharedLibrary::close(OdModuleHandle library)
     ::FreeLibrary(library);
 }
 
-// The file's absolute path with "/" separators, as the dlinfo twin answers; a path longer than
-// MAX_PATH is read whole, not cut.
+// The system's own name of the file, as modules report it: at most MAX_PATH characters, with
+// Windows' separators. No library has no name, as with dlinfo (GetModuleFileNameW would
+// otherwise name the program).
 OdString OdSharedLibrary::fileName(OdModuleHandle library)
 {
     if (!library)
         return OdString();
-    std::wstring buffer(MAX_PATH, L'\0');
-    DWORD length = 0;
-    while ((length = ::GetModuleFileNameW(library, &buffer[0], DWORD(buffer.size()))) ==
-           buffer.size())
-        buffer.resize(buffer.size() * 2);
-    if (length == 0)
-        return OdString();
-    buffer.resize(length);
-    return fromQt(QFileInfo(QString::fromStdWString(buffer)).absoluteFilePath());
+    wchar_t buffer[MAX_PATH] = {};
+    ::GetModuleFileNameW(library, buffer, MAX_PATH);
+    return OdString(buffer);
 }
 
 bool OdSharedLibrary::isLoaded(const OdString& path)
