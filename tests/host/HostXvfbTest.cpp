@@ -1,0 +1,266 @@
+// The host's window on a real X server (Xvfb, started and stopped by this program): what it
+// shows of the profile, that its menus and ribbon run commands, that the canvas shows the
+// drawing, and that closing it ends the session.
+#include "DrawingCanvas.h"
+#include "EventPrinter.h"
+#include "EventRecorder.h"
+#include "HostOptions.h"
+#include "HostSession.h"
+#include "HostWindow.h"
+#include "IsolatedHome.h"
+#include "RibbonWidget.h"
+#include "ScriptRunner.h"
+#include "XvfbServer.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QMenuBar>
+#include <QScreen>
+#include <QTabWidget>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+
+#include <gtest/gtest.h>
+
+#include <CFxDocumentManager.h>
+#include <CFxSystemServices.h>
+#include <CFxUI.h>
+#include <OdEdCommandStack.h>
+
+#include <cstdio>
+#include <memory>
+
+namespace {
+class HostWindowOnX : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        HostOptions options;
+        options.modulePath = QStringList{QStringLiteral(EC_STAGE_DIR)};
+        options.companionPath = QStringLiteral(EC_STAGE_DIR);
+        options.registryFile = m_home.path() + QStringLiteral("/registry.ini");
+        options.uiProfile = QStringLiteral(EC_SOURCE_DIR "/host/profiles/default.json");
+        m_session = std::make_unique<HostSession>(options);
+        m_runner = std::make_unique<ScriptRunner>(*m_session, m_printer);
+        m_session->start();
+        m_session->setWindowHandlers(
+            [this](const QString& line) { m_runner->run(line, QDir(m_home.path())); },
+            [this] {
+                m_windowGone = true;
+                QCoreApplication::quit();
+            });
+        m_session->createMainFrame();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window()));
+    }
+
+    void TearDown() override
+    {
+        m_session->shutdown();
+        GetFxSystemServices()->GetDocumentManager()->CloseAll();
+        std::fclose(m_discarded);
+    }
+
+    HostWindow* window() const { return m_session->mainFrame(); }
+    const CFxUI& ui() const { return *GetFxSystemServices()->GetUI(); }
+
+    // The command lines that ran since `from`, known or not.
+    QStringList commandLinesRun() const
+    {
+        QStringList lines =
+            m_events.events().values(QStringLiteral("command-ended"), QStringLiteral("name"));
+        lines << m_events.events().values(QStringLiteral("unknown-command"),
+                                          QStringLiteral("name"));
+        return lines;
+    }
+
+    IsolatedHome m_home;
+    EventRecorder m_events;
+    std::FILE* m_discarded = std::fopen("/dev/null", "w");
+    EventPrinter m_printer{false, m_discarded};
+    std::unique_ptr<HostSession> m_session;
+    std::unique_ptr<ScriptRunner> m_runner;
+    bool m_windowGone = false;
+};
+
+// A menu entry of the profile whose macro runs a command on the command stack.
+const CFxUIMenuEntry* entryRunningACommand(const CFxUI& ui)
+{
+    for (const CFxUIGroup* group : ui.GetMenuGroups()) {
+        if (group == ui.GetReferenceMenuGroup())
+            continue;
+        for (const CFxUIPullDownMenu* menu : group->GetPullDownMenus()) {
+            for (const CFxUIMenuEntry* entry : menu->GetEntries()) {
+                const CFxUIMenuItem* item = entry->GetItem();
+                if (!item)
+                    continue;
+                const QString line = HostWindow::commandLineOf(item->GetMacro().toQString());
+                if (odedRegCmds()->lookupCmd(OdString(line.toStdWString())))
+                    return entry;
+            }
+        }
+    }
+    return nullptr;
+}
+
+// The bounding box of the pixels of `image` inside `area` that are not the canvas's background.
+QRect drawnBox(const QImage& image, const QRect& area)
+{
+    QRect box;
+    const QRgb background = DrawingCanvas::background().rgb();
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            if ((image.pixel(x, y) & 0xffffff) != (background & 0xffffff))
+                box |= QRect(x, y, 1, 1);
+        }
+    }
+    return box;
+}
+} // namespace
+
+TEST_F(HostWindowOnX, OpensWithTheProfilesMenusAndRibbonTabs)
+{
+    EXPECT_EQ(QGuiApplication::platformName(), "xcb");
+    QStringList menus;
+    for (const CFxUIGroup* group : ui().GetMenuGroups()) {
+        if (group == ui().GetReferenceMenuGroup())
+            continue;
+        for (const CFxUIPullDownMenu* menu : group->GetPullDownMenus())
+            menus << menu->GetText().toQString();
+    }
+    QStringList shownMenus;
+    for (const QAction* action : window()->menuBar()->actions())
+        shownMenus << action->text();
+    EXPECT_FALSE(menus.isEmpty());
+    EXPECT_EQ(shownMenus, menus);
+
+    QStringList tabs;
+    for (const CFxUIRibbonTab* tab : RibbonWidget::distinctTabs(ui()))
+        tabs << tab->GetCaption().toQString();
+    const auto* tabWidget = window()->findChild<QTabWidget*>(QStringLiteral("RibbonTabs"));
+    ASSERT_NE(tabWidget, nullptr);
+    QStringList shownTabs;
+    for (int at = 0; at < tabWidget->count(); ++at)
+        shownTabs << tabWidget->tabText(at);
+    EXPECT_TRUE(tabs.contains(QStringLiteral("Add-Ins"))) << "the module's tab joined";
+    EXPECT_EQ(shownTabs, tabs);
+}
+
+TEST_F(HostWindowOnX, AMenuEntryAndARibbonButtonRunTheirCommands)
+{
+    const CFxUIMenuEntry* entry = entryRunningACommand(ui());
+    ASSERT_NE(entry, nullptr) << "the profile and the module give a menu entry with a command";
+    auto* action = window()->menuBar()->findChild<QAction*>(entry->GetIdentifier().toQString());
+    ASSERT_NE(action, nullptr);
+    action->trigger();
+    const QString menuLine = HostWindow::commandLineOf(entry->GetItem()->GetMacro().toQString());
+    EXPECT_EQ(commandLinesRun(), QStringList({menuLine}));
+
+    const CFxUIRibbonButton* button = nullptr;
+    for (const CFxUIRibbonPanel* panel : RibbonWidget::distinctTabs(ui()).front()->GetPanels()) {
+        for (const CFxUIRibbonRow* row : panel->GetRows()) {
+            for (const CFxUIRibbonButton* candidate : row->GetButtons()) {
+                if (!button && candidate->GetCommand())
+                    button = candidate;
+            }
+        }
+    }
+    ASSERT_NE(button, nullptr) << "the first tab has a button with a command";
+    auto* shown = window()->findChild<QToolButton*>(button->GetIdentifier().toQString());
+    ASSERT_NE(shown, nullptr);
+    QTest::mouseClick(shown, Qt::LeftButton);
+    EXPECT_EQ(commandLinesRun(),
+              QStringList({menuLine, HostWindow::commandLineOf(
+                                         button->GetCommand()->GetMacro().toQString())}));
+}
+
+TEST_F(HostWindowOnX, TheCanvasShowsTheDrawingFittedToIt)
+{
+    // A frame 200 by 100 and a short line near its upper left corner.
+    const QString path = m_home.path() + QStringLiteral("/frame.dxf");
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(
+        "0\nSECTION\n2\nENTITIES\n"
+        "0\nLWPOLYLINE\n70\n1\n10\n0\n20\n0\n10\n200\n20\n0\n10\n200\n20\n100\n10\n0\n20\n100\n"
+        "0\nLINE\n10\n20\n20\n80\n11\n60\n21\n80\n0\nENDSEC\n0\nEOF\n");
+    file.close();
+    m_runner->run(QStringLiteral("open frame.dxf"), QDir(m_home.path()));
+    DrawingCanvas* canvas = window()->canvas();
+    const QRect area(canvas->mapTo(window(), QPoint()), canvas->size());
+    // The picture as the X server holds it.
+    QImage image;
+    QRect box;
+    for (int attempt = 0; attempt < 50 && box.isEmpty(); ++attempt) {
+        QTest::qWait(100);
+        image = window()->screen()->grabWindow(window()->winId()).toImage();
+        box = drawnBox(image, area);
+    }
+    const double scale = std::min(area.width() * (1 - 2 * DrawingCanvas::kMargin) / 200,
+                                  area.height() * (1 - 2 * DrawingCanvas::kMargin) / 100);
+    const QPointF center(area.left() + area.width() / 2.0, area.top() + area.height() / 2.0);
+    const QRectF expected(center - QPointF(100 * scale, 50 * scale), QSizeF(200, 100) * scale);
+    EXPECT_NEAR(box.left(), expected.left(), 2);
+    EXPECT_NEAR(box.right(), expected.right(), 2);
+    EXPECT_NEAR(box.top(), expected.top(), 2);
+    EXPECT_NEAR(box.bottom(), expected.bottom(), 2);
+    // Up in the drawing is up on the screen: the line is near the top, nothing mirrors it.
+    const auto drawnNear = [&](double x, double y) {
+        const QPoint at(qRound(expected.left() + x * scale), qRound(expected.bottom() - y * scale));
+        return !drawnBox(image, QRect(at - QPoint(1, 1), QSize(3, 3))).isEmpty();
+    };
+    EXPECT_TRUE(drawnNear(40, 80));
+    EXPECT_FALSE(drawnNear(40, 20));
+}
+
+TEST_F(HostWindowOnX, ClosingTheWindowEndsTheSession)
+{
+    QPointer<HostWindow> shown = window();
+    QTimer::singleShot(0, shown, [shown] { shown->close(); });
+    QApplication::exec();
+    EXPECT_TRUE(m_windowGone);
+    EXPECT_EQ(m_session->mainFrame(), nullptr);
+    EXPECT_EQ(m_events.events().count(QStringLiteral("mainframe-destroyed")), 1);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(shown.isNull()) << "the window itself is gone";
+    m_session->shutdown();
+    EXPECT_TRUE(m_events.events()
+                    .values(QStringLiteral("module-unloaded"), QStringLiteral("module"))
+                    .contains(QStringLiteral("ExtCommands")));
+}
+
+int main(int argc, char** argv)
+{
+    ::testing::InitGoogleTest(&argc, argv);
+    if (::testing::GTEST_FLAG(list_tests))
+        return RUN_ALL_TESTS();
+    XvfbServer server;
+    if (server.display().isEmpty()) {
+        std::fprintf(stderr, "cannot start an X server: %s\n", qUtf8Printable(server.error()));
+        return 1;
+    }
+    qputenv("DISPLAY", server.display());
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    qunsetenv("WAYLAND_DISPLAY");
+    // Nothing here reaches the user's session bus.
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/bus");
+    IsolatedHome home;
+    // A web page that a command opens goes nowhere.
+    const QString tools = home.path() + QStringLiteral("/bin");
+    QDir().mkpath(tools);
+    QFile opener(tools + QStringLiteral("/xdg-open"));
+    if (!opener.open(QIODevice::WriteOnly) || opener.write("#!/bin/sh\nexit 0\n") < 0)
+        return 1;
+    opener.close();
+    opener.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    qputenv("PATH", QFile::encodeName(tools) + ':' + qgetenv("PATH"));
+    qputenv("BROWSER", "true");
+    int result = 0;
+    {
+        QApplication application(argc, argv);
+        result = RUN_ALL_TESTS();
+    }
+    return result;
+}
