@@ -1,7 +1,8 @@
 #include "ReferencedDrawingCopier.h"
 
+#include "PlainFileCopy.h"
+
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include <OdDbBlockTableRecord.h>
@@ -58,8 +59,8 @@ void ReferencedDrawingCopier::copy(const OdDbGraphNode* node) const
     if (!record)
         return;
     const QString source = referencedFile(*record);
-    // QFile::copy never replaces an existing file.
-    QFile::copy(source, m_folder + QLatin1Char('/') + QFileInfo(source).fileName());
+    // An existing file is never replaced.
+    PlainFileCopy::copy(source, m_folder + QLatin1Char('/') + QFileInfo(source).fileName());
 }
 
 QString ReferencedDrawingCopier::referencedFile(const OdDbBlockTableRecord& record)
