@@ -249,8 +249,10 @@ def goals(benchmarks, processes):
     thousand = per_call(benchmarks, 1000, 0)
     small, large = per_call(benchmarks, 100, 0), per_call(benchmarks, 10000, 0)
     if thousand:
-        rows.append(("1,000 buttons loaded+unloaded, no window", "%.2f ms" % thousand["real_time"],
-                     "<= 20 ms", thousand["real_time"] <= 20))
+        # CPU time: on a shared machine the wall time also counts other programs' turns.
+        rows.append(("1,000 buttons loaded+unloaded, no window",
+                     "%.2f ms CPU (%.2f ms wall)" % (thousand["cpu_time"], thousand["real_time"]),
+                     "<= 20 ms", thousand["cpu_time"] <= 20))
     if small and large:
         ratio = large["per_call"] / small["per_call"]
         rows.append(("per call, N=10,000 / N=100", "x%.2f" % ratio, "<= x2", ratio <= 2))
@@ -277,16 +279,17 @@ def goals(benchmarks, processes):
 
 
 def print_tables(benchmarks, rows, runs):
-    print("%-58s %14s %14s" % ("in-process benchmark", "time", "per item"))
+    print("%-56s %14s %14s %14s" % ("in-process benchmark", "wall", "CPU", "CPU per item"))
     for entry in benchmarks:
         if entry.get("run_type") == "aggregate":
             continue
         unit = entry.get("time_unit", "ns")
+        # Google Benchmark divides rates by the CPU time.
         per = entry.get("per_call")
         if per is None and entry.get("items_per_second"):
             per = 1.0 / entry["items_per_second"]
-        print("%-58s %11.3f %-2s %11.3f us" % (entry["name"], entry["real_time"], unit,
-                                                (per or 0) * 1e6))
+        print("%-56s %11.3f %-2s %11.3f %-2s %11.3f us" % (
+            entry["name"], entry["real_time"], unit, entry["cpu_time"], unit, (per or 0) * 1e6))
     print()
     print("%-46s %-30s %-9s %s   (medians of %d interleaved runs)" % (
         "goal", "measured", "target", "met", runs))

@@ -1,7 +1,8 @@
 #include "ReferencedDrawingCopier.h"
 
+#include "PlainFileCopy.h"
+
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include <OdDbBlockTableRecord.h>
@@ -58,12 +59,10 @@ void ReferencedDrawingCopier::copy(const OdDbGraphNode* node) const
     if (!record)
         return;
     const QString source = referencedFile(*record);
-    // Only a drawing file is copied: QFile::copy would wait for ever on a pipe and copy a
-    // device as an empty file. What is not a file is left out, as a missing file is.
-    if (!QFileInfo(source).isFile())
-        return;
-    // QFile::copy never replaces an existing file.
-    QFile::copy(source, m_folder + QLatin1Char('/') + QFileInfo(source).fileName());
+    // Only a drawing file is copied (a pipe would block the copy for ever, a device would copy
+    // as an empty file): PlainFileCopy leaves out what is not a regular file, as a missing one.
+    // An existing file is never replaced.
+    PlainFileCopy::copy(source, m_folder + QLatin1Char('/') + QFileInfo(source).fileName());
 }
 
 QString ReferencedDrawingCopier::referencedFile(const OdDbBlockTableRecord& record)
