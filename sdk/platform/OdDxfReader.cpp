@@ -3,11 +3,13 @@
 #include "OdError.h"
 
 namespace {
-// Walks the lines of a file, without their line endings, counting them from 1.
+// Walks the lines of a file, without their line endings, counting them from 1. A carriage
+// return before the line feed belongs to the ending only in a file whose lines end in "\r\n"
+// (as its first line says); elsewhere it is part of the value, which is written back with it.
 class LineCursor
 {
 public:
-    explicit LineCursor(const QByteArray& content) : m_content(content) {}
+    LineCursor(const QByteArray& content, bool crLf) : m_content(content), m_crLf(crLf) {}
 
     bool atEnd() const { return m_position >= m_content.size(); }
     int lineNumber() const { return m_line; }
@@ -18,7 +20,7 @@ public:
         if (end < 0)
             end = m_content.size();
         QByteArray line = m_content.mid(m_position, end - m_position);
-        if (line.endsWith('\r'))
+        if (m_crLf && line.endsWith('\r'))
             line.chop(1);
         m_position = end + 1;
         ++m_line;
@@ -38,6 +40,7 @@ public:
 
 private:
     const QByteArray& m_content;
+    const bool m_crLf;
     int m_position = 0;
     int m_line = 0;
 };
@@ -78,7 +81,7 @@ std::vector<OdDxfGroup> OdDxfReader::read(const QByteArray& content, const QStri
         fail(source, QStringLiteral("the file is empty"));
     std::vector<OdDxfGroup> groups;
     bool started = false;
-    LineCursor cursor(content);
+    LineCursor cursor(content, lineEnding(content) == "\r\n");
     while (!cursor.atEnd()) {
         const QByteArray codeLine = cursor.next();
         const int code = groupCode(codeLine, source, cursor.lineNumber());

@@ -45,12 +45,17 @@ protected:
 
 TEST_F(DxfDrawing, DrawingsAreWrittenBackAsTheyWereRead)
 {
-    // A drawing made by ezdxf, and one by hand with Windows line ends, a comment and blanks.
+    // A drawing made by ezdxf, one by hand with Windows line ends, a comment and blanks.
     const QString handMade = writeFile(
         QStringLiteral("crlf.dxf"), "999\r\nmade by hand  \r\n  0\r\nSECTION\r\n  2\r\nENTITIES\r\n"
                                     "  0\r\nTEXT\r\n  1\r\n  two  spaces  \r\n  0\r\nENDSEC\r\n"
                                     "  0\r\nEOF\r\n");
-    for (const QString& source : {QStringLiteral(EC_SOURCE_DIR "/host/demo/plan.dxf"), handMade}) {
+    // With Unix line ends, a carriage return at the end of a value is the value's own.
+    const QString trailingReturns = writeFile(
+        QStringLiteral("lf.dxf"), "  0\nSECTION\n  2\nENTITIES\n  0\nTEXT\n  1\nreturns\r\r\n"
+                                  "  0\nENDSEC\n  0\nEOF\n");
+    for (const QString& source :
+         {QStringLiteral(EC_SOURCE_DIR "/host/demo/plan.dxf"), handMade, trailingReturns}) {
         SCOPED_TRACE(source.toStdString());
         const OdDbDatabasePtr database = OdDbDatabase::readFile(od(source));
         ASSERT_TRUE(database);
