@@ -67,7 +67,7 @@ public:
     void AppendNew(T* item)
     {
         if (item)
-            m_items.push_back(item);
+            place(m_items.end(), item);
     }
 
     // Puts `item` right after `anchor`; a null anchor puts it first. An anchor that the list
