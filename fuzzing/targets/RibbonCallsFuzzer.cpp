@@ -1,5 +1,7 @@
-// Sequences of calls to the module's exported ribbon interface, as siblings make them, with the
-// module loaded afresh for each input through the platform's dynamic linker.
+// Sequences of calls to the module's exported ribbon interface, as siblings make them. The module
+// is loaded once through the platform's dynamic linker and its loaded-item table emptied through
+// the same interface before each input (libFuzzer cannot follow a module unloaded and loaded
+// again).
 #include "FuzzEnvironment.h"
 #include "ModuleUnderTest.h"
 #include "RibbonCallSequence.h"
