@@ -9,9 +9,9 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-
 #include <OdDbXrefGraph.h>
+
+#include <memory>
 
 namespace {
 // The drawing a node stands for: its file when it was read, else "missing:" and the path that
