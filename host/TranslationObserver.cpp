@@ -9,11 +9,10 @@
 
 #include <OdEventLog.h>
 
-#include <algorithm>
-
 TranslationObserver::TranslationObserver() : m_locale(QLocale().name())
 {
-    for (QTranslator* translator : installedTranslators())
+    m_seen = qtTranslators();
+    for (QTranslator* translator : qAsConst(m_seen))
         m_known.insert(translator, translator);
     QCoreApplication::instance()->installEventFilter(this);
 }
@@ -33,16 +32,7 @@ bool TranslationObserver::eventFilter(QObject* watched, QEvent* event)
 
 void TranslationObserver::look()
 {
-    // Only the translators installed now are remembered, so that a look costs as much as the
-    // translators installed, however many came and went before.
-    QList<QTranslator*> installed;
-    QHash<const QTranslator*, QPointer<QTranslator>> known;
-    for (QTranslator* translator : installedTranslators()) {
-        if (!isKnown(translator))
-            installed.append(translator);
-        known.insert(translator, translator);
-    }
-    m_known.swap(known);
+    const QList<QTranslator*> installed = newlyInstalled();
     const QString locale = QLocale().name();
     if (locale != m_locale || (!installed.isEmpty() && !m_localeReportedInStatement)) {
         m_locale = locale;
@@ -63,14 +53,35 @@ bool TranslationObserver::isKnown(const QTranslator* translator) const
     return known != m_known.constEnd() && known->data() == translator;
 }
 
-QList<QTranslator*> TranslationObserver::installedTranslators()
+QList<QTranslator*> TranslationObserver::newlyInstalled()
+{
+    // Translators that stay installed for the life of the process pile up, and the host looks
+    // after every statement: a list that Qt has not changed since the last look still shares
+    // its data with the copy kept then, and is passed over without going through it.
+    const QList<QTranslator*> current = qtTranslators();
+    if (current.isSharedWith(m_seen))
+        return {};
+    m_seen = current;
+    ++m_walks;
+    // Only the translators installed now are remembered, so that a walk costs as much as the
+    // translators installed, however many came and went before. Qt keeps the latest installed
+    // first.
+    QList<QTranslator*> installed;
+    QHash<const QTranslator*, QPointer<QTranslator>> known;
+    for (auto translator = current.crbegin(); translator != current.crend(); ++translator) {
+        if (!isKnown(*translator))
+            installed.append(*translator);
+        known.insert(*translator, *translator);
+    }
+    m_known.swap(known);
+    return installed;
+}
+
+QList<QTranslator*> TranslationObserver::qtTranslators()
 {
     // Qt offers no public way to list the installed translators; its own list is the truth.
     auto* application =
         static_cast<QCoreApplicationPrivate*>(QObjectPrivate::get(QCoreApplication::instance()));
     QReadLocker locker(&application->translateMutex);
-    QList<QTranslator*> translators = application->translators;
-    // Qt keeps the latest installed first.
-    std::reverse(translators.begin(), translators.end());
-    return translators;
+    return application->translators;
 }

@@ -26,17 +26,24 @@ public:
     void statementEnded();
     // How many translators the observer remembers: those installed at the last look.
     int remembered() const { return m_known.size(); }
+    // How many looks went through the installed translators one by one: only those after Qt
+    // changed its list of them.
+    int walks() const { return m_walks; }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void look();
+    QList<QTranslator*> newlyInstalled();
     bool isKnown(const QTranslator* translator) const;
-    static QList<QTranslator*> installedTranslators();
+    static QList<QTranslator*> qtTranslators();
 
     // Each translator installed at the last look, by its address.
     QHash<const QTranslator*, QPointer<QTranslator>> m_known;
+    // Qt's own list as it was at the last look: it shares its data with Qt's until Qt changes it.
+    QList<QTranslator*> m_seen;
+    int m_walks = 0;
     QString m_locale;
     bool m_localeReportedInStatement = false;
 };

@@ -15,7 +15,13 @@ public:
     {
         add(static_cast<quint64>(reinterpret_cast<quintptr>(pointer)));
     }
-    void add(const CFxString& text) { add(static_cast<quint64>(qHash(text.toQString()))); }
+    // The characters as they are: making a QString of each text for its hash cost more than
+    // the rest of a walk, which every refresh takes over a model that only grows.
+    void add(const CFxString& text)
+    {
+        const auto bytes = static_cast<size_t>(text.length()) * sizeof(wchar_t);
+        add(static_cast<quint64>(qHashBits(text.c_str(), bytes)));
+    }
     void add(const CFxUICommand* command)
     {
         add(static_cast<const void*>(command));

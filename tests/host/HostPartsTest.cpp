@@ -126,3 +126,31 @@ TEST(TranslationObserverTest, RemembersOnlyTheTranslatorsStillInstalled)
     EXPECT_EQ(observer.remembered(), before);
     EXPECT_EQ(events.events().count("translator-installed"), 400);
 }
+
+TEST(TranslationObserverTest, GoesThroughTheTranslatorsOnlyAfterQtChangedThemAndSeesAnAddressReused)
+{
+    EventRecorder events;
+    TranslationObserver observer;
+    const int before = observer.remembered();
+    std::vector<std::unique_ptr<QTranslator>> kept;
+    for (int i = 0; i < 8; ++i) {
+        kept.push_back(std::make_unique<QTranslator>());
+        QCoreApplication::installTranslator(kept.back().get());
+    }
+    observer.statementEnded();
+    const int walks = observer.walks();
+    for (int statement = 0; statement < 20; ++statement)
+        observer.statementEnded();
+    EXPECT_EQ(observer.walks(), walks);
+
+    // A translator deleted and another one made at its very address before the next look.
+    alignas(QTranslator) unsigned char storage[sizeof(QTranslator)];
+    QCoreApplication::installTranslator(new (storage) QTranslator);
+    observer.statementEnded();
+    reinterpret_cast<QTranslator*>(storage)->~QTranslator();
+    QCoreApplication::installTranslator(new (storage) QTranslator);
+    observer.statementEnded();
+    EXPECT_EQ(events.events().count("translator-installed"), 10);
+    EXPECT_EQ(observer.remembered(), before + int(kept.size()) + 1);
+    reinterpret_cast<QTranslator*>(storage)->~QTranslator();
+}
