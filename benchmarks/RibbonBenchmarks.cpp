@@ -1,55 +1,11 @@
 // The exported ribbon interface as a sibling drives it: a row of N buttons loaded, then
 // unloaded, on the host's default profile, with the module loaded through the platform.
 #include "RibbonHost.h"
+#include "RowRecords.h"
 
 #include <benchmark/benchmark.h>
 
-#include <memory>
-#include <vector>
-
 namespace {
-// The records of one row: N top-level buttons, each (when `split`) a split button holding a
-// command, a separator and a split button of two commands: five nested entries each.
-class RowRecords
-{
-public:
-    RowRecords(int count, bool split)
-    {
-        for (int i = 0; i < count; ++i) {
-            const QString id = QStringLiteral("ID_BENCH_%1").arg(i);
-            RibbonItem* top =
-                add(record(id, split ? QStringLiteral("split") : QStringLiteral("command")));
-            m_top.push_back(top);
-            if (!split)
-                continue;
-            addChild(top, id + QStringLiteral("_RUN"), QStringLiteral("command"));
-            addChild(top, QString(), QStringLiteral("separator"));
-            RibbonItem* more = addChild(top, id + QStringLiteral("_MORE"), QStringLiteral("split"));
-            addChild(more, id + QStringLiteral("_A"), QStringLiteral("command"));
-            addChild(more, id + QStringLiteral("_B"), QStringLiteral("command"));
-        }
-    }
-
-    const std::vector<RibbonItem*>& top() const { return m_top; }
-
-private:
-    RibbonItem* add(RibbonItem item)
-    {
-        m_owned.push_back(std::make_unique<RibbonItem>(std::move(item)));
-        return m_owned.back().get();
-    }
-
-    RibbonItem* addChild(RibbonItem* parent, const QString& id, const QString& type)
-    {
-        RibbonItem* child = add(record(id, type));
-        parent->children.append(child);
-        return child;
-    }
-
-    std::vector<std::unique_ptr<RibbonItem>> m_owned;
-    std::vector<RibbonItem*> m_top;
-};
-
 // One iteration loads every button of the row, then unloads them in the order they were
 // loaded; "per_call" is the time of one load or unload.
 void RibbonLoadUnload(benchmark::State& state)

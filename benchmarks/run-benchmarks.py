@@ -130,8 +130,14 @@ def in_process(runner, quick, out_folder):
     if quick:
         command.append("--benchmark_min_time=0.000001")
     with tempfile.TemporaryDirectory(prefix="bench-home-") as home:
-        subprocess.run(command, check=True, env=runner.environment(home),
-                       stdout=subprocess.DEVNULL)
+        run = subprocess.run(command, env=runner.environment(home), stdout=subprocess.DEVNULL,
+                             stderr=subprocess.PIPE, text=True)
+    # The offscreen platform warns of every window it cannot resize: noise, not news.
+    for line in run.stderr.splitlines():
+        if "does not support propagateSizeHints" not in line:
+            print(line, file=sys.stderr)
+    if run.returncode != 0:
+        fail("%s exited with %d" % (program, run.returncode))
     with open(output) as data:
         return json.load(data)["benchmarks"]
 
@@ -237,7 +243,10 @@ def viewer_activation(runner, folder):
 
 
 def per_call(benchmarks, buttons, split):
-    name = "RibbonLoadUnload/buttons:%d/split:%d" % (buttons, split)
+    return named(benchmarks, "RibbonLoadUnload/buttons:%d/split:%d" % (buttons, split))
+
+
+def named(benchmarks, name):
     for entry in benchmarks:
         if entry["name"] == name:
             return entry
@@ -253,6 +262,11 @@ def goals(benchmarks, processes):
         rows.append(("1,000 buttons loaded+unloaded, no window",
                      "%.2f ms CPU (%.2f ms wall)" % (thousand["cpu_time"], thousand["real_time"]),
                      "<= 20 ms", thousand["cpu_time"] <= 20))
+    windowed = named(benchmarks, "RibbonLoadUnloadWithWindow/buttons:1000")
+    if windowed:
+        rows.append(("1,000 buttons loaded+unloaded, window shown",
+                     "%.2f ms CPU (%.2f ms wall)" % (windowed["cpu_time"], windowed["real_time"]),
+                     "<= 100 ms", windowed["cpu_time"] <= 100))
     if small and large:
         ratio = large["per_call"] / small["per_call"]
         rows.append(("per call, N=10,000 / N=100", "x%.2f" % ratio, "<= x2", ratio <= 2))
