@@ -1,6 +1,6 @@
 #include "LanguageTable.h"
 
-#include "module/ProcessLifetime.h"
+#include "common/ProcessLifetime.h"
 
 #include <QCoreApplication>
 #include <QDir>
