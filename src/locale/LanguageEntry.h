@@ -8,13 +8,15 @@
 // folder's name, so that it can be joined to a base folder as it stands.
 struct LanguageEntry
 {
-    LanguageEntry(int id, const CFxString& displayName, int qtLanguage, bool flag,
+    LanguageEntry(int id, const CFxString& displayName, int qtLanguage, bool hostListMark,
                   const QString& folderName);
 
     int id;
     CFxString displayName;
     int qtLanguage;
-    // Carried with every language of the host's list; nothing here reads it.
-    bool flag;
+    // The yes-or-no mark that the host's own language list carries beside each language. Its
+    // meaning is the host's; the module copies it so that the table matches the host's list,
+    // and reads it nowhere.
+    bool hostListMark;
     CFxString folder;
 };

@@ -1,5 +1,6 @@
 #include "ProductPage.h"
 
+#include "CurrentLanguage.h"
 #include "LanguageTable.h"
 
 #include <QDesktopServices>
@@ -32,6 +33,6 @@ QString productPageAddress(const LanguageEntry& language, const QString& suffix)
 void openProductPage(const QString& suffix)
 {
     const LanguageTable table;
-    const LanguageEntry language = table.currentEntry();
+    const LanguageEntry language = currentLanguage(table);
     QDesktopServices::openUrl(QUrl(productPageAddress(language, suffix), QUrl::TolerantMode));
 }

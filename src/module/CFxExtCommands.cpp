@@ -2,7 +2,7 @@
 
 #include "CompanionSettings.h"
 #include "DelayLoadLibrary.h"
-#include "locale/LanguageTable.h"
+#include "locale/TranslatorLoader.h"
 #include "ribbon/HostMainGroup.h"
 #include "ribbon/RibbonContainers.h"
 #include "ribbon/RibbonIdentifiers.h"
@@ -36,8 +36,8 @@ void CFxExtCommands::mainFrameCreated(QWidget*)
     QUuid installationId = GetFxSystemServices()->GetInstallationId();
     {
         // Installs the translators before anything shows a text; they stay installed.
-        const LanguageTable translatorLoader;
-        translatorLoader.loadTranslators(1);
+        const TranslatorLoader translatorLoader;
+        translatorLoader.load(1);
         createAddInsTab();
         addQuestionView();
         addCollaborationView();

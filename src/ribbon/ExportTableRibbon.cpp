@@ -1,7 +1,7 @@
 #include "ApplicationMenuCommand.h"
 #include "ApplicationMenuSearch.h"
 #include "HostMainGroup.h"
-#include "module/ProcessLifetime.h"
+#include "common/ProcessLifetime.h"
 
 #include <QObject>
 

@@ -1,7 +1,7 @@
 #include "LoadedRibbonItems.h"
 
 #include "RibbonOrderTable.h"
-#include "module/ProcessLifetime.h"
+#include "common/ProcessLifetime.h"
 
 namespace {
 QHash<QString, CFxUIRibbonButton*>* g_items = nullptr;

@@ -5,7 +5,7 @@
 #include "RibbonCommands.h"
 #include "RibbonContainers.h"
 #include "RibbonIdentifiers.h"
-#include "module/ProcessLifetime.h"
+#include "common/ProcessLifetime.h"
 
 #include <QDebug>
 

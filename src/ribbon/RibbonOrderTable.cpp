@@ -1,6 +1,6 @@
 #include "RibbonOrderTable.h"
 
-#include "module/ProcessLifetime.h"
+#include "common/ProcessLifetime.h"
 
 namespace {
 QMap<int, QString>* g_table = nullptr;

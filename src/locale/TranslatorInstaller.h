@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+
+struct LanguageEntry;
+
+// Installs a translator for each of the module's catalogues, read from a language's folder
+// below the messages folder. Three of the catalogues are the companions' texts, which are
+// shown after the module is gone: the translators are never removed nor freed, and a second
+// call installs a second set above the first.
+class TranslatorInstaller
+{
+public:
+    // The host's "messages" folder, beside the program.
+    static QString hostMessagesFolder();
+
+    explicit TranslatorInstaller(const QString& messagesFolder);
+
+    // The language's own folder, else the messages folder itself; nothing is installed when
+    // neither exists. A catalogue missing there gives an empty translator, installed all the
+    // same.
+    void install(const LanguageEntry& language) const;
+
+private:
+    QString folderFor(const LanguageEntry& language) const;
+
+    QString m_messagesFolder;
+};
