@@ -1,5 +1,6 @@
 #include "ExtCommands/CDontShowAgainMessageBox.h"
 
+#include "common/HeapText.h"
 #include "ui_CDontShowAgainMessageBox.h"
 
 #include <QDir>
@@ -29,8 +30,8 @@ std::unique_ptr<QSettings> openSettings()
 {
     const QDir folder(settingsFolder());
     folder.mkpath(folder.dirName());
-    return std::make_unique<QSettings>(
-        folder.filePath(QStringLiteral("dontshowagainmessagebox.ini")), QSettings::IniFormat);
+    return std::make_unique<QSettings>(folder.filePath(heapText("dontshowagainmessagebox.ini")),
+                                       QSettings::IniFormat);
 }
 } // namespace
 
