@@ -31,8 +31,6 @@ public:
     void addAfter(CFxUI& ui, CFxUIRibbonSystemMenuItem& menu, const CFxString& anchorId,
                   WithoutAnchor withoutAnchor) const;
 
-    const CFxString& identifier() const { return m_identifier; }
-
 private:
     CFxString m_identifier;
     CFxString m_text;
