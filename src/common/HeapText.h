@@ -10,6 +10,6 @@
 // the QRegExp pattern cache, QSettings' keys and file paths, Qt D-Bus's names and messages,
 // QLibrary's list of libraries, and whatever QString or QVariant the host stores. A text held
 // there that points into the module dangles once the module is gone. So every text of the
-// module that may reach such a cache is made here (or by joining texts, which always makes a
-// new one); Qt may then keep it for as long as it likes.
+// module that may reach such a cache is made here, joined ones too: a literal joined with an
+// empty text is still the literal. Qt may then keep it for as long as it likes.
 QString heapText(const char* latin1);

@@ -19,7 +19,7 @@ constexpr Qt::WindowFlags boxWindowFlags = Qt::WindowTitleHint | Qt::WindowSyste
 QString settingsFolder()
 {
     return QDir::cleanPath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-                           QStringLiteral("/Corvane/Quillon"));
+                           heapText("/Corvane/Quillon"));
 }
 
 // Opens the file shared by every message box. Making the folder by its own name, relative to
@@ -109,5 +109,5 @@ void CDontShowAgainMessageBox::connectForm()
 
 QString CDontShowAgainMessageBox::checkedKey() const
 {
-    return m_id + QStringLiteral("/checked");
+    return m_id + heapText("/checked");
 }
