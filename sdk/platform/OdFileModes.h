@@ -1,8 +1,8 @@
 #pragma once
 
-// How a file is opened through the platform's system services. The values are the ones the
-// platform has always used on Windows (the access rights, the C runtime's share flags and the
-// creation dispositions), so a caller may pass either the names or the plain numbers.
+// How a file is opened through the platform's system services. The values are Windows' own
+// (the access rights, the C runtime's share flags and the creation dispositions), so that they
+// reach the system unchanged there and a caller may pass either the names or the plain numbers.
 namespace Oda {
 enum FileAccessMode : unsigned int
 {

@@ -2,6 +2,7 @@
 
 #include "LanguageEntry.h"
 #include "ModuleCatalogues.h"
+#include "common/HeapText.h"
 #include "common/ProcessLifetime.h"
 
 #include <QCoreApplication>
@@ -33,8 +34,7 @@ void TranslatorInstaller::install(const LanguageEntry& language) const
     std::array<QTranslator*, kModuleCatalogues.size()> translators{};
     for (std::size_t i = 0; i < kModuleCatalogues.size(); ++i) {
         translators[i] = keptForProcess(new QTranslator());
-        translators[i]->load(QString::fromLatin1(kModuleCatalogues[i]), folder, QString(),
-                             QString());
+        translators[i]->load(heapText(kModuleCatalogues[i]), folder, QString(), QString());
     }
     // Taking out what was never installed changes nothing: translators of an earlier call
     // stay installed, below the new ones.

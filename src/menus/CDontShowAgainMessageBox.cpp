@@ -1,5 +1,6 @@
 #include "ExtCommands/CDontShowAgainMessageBox.h"
 
+#include "common/HeapText.h"
 #include "ui_CDontShowAgainMessageBox.h"
 
 #include <QDir>
@@ -18,7 +19,7 @@ constexpr Qt::WindowFlags boxWindowFlags = Qt::WindowTitleHint | Qt::WindowSyste
 QString settingsFolder()
 {
     return QDir::cleanPath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-                           QStringLiteral("/Corvane/Quillon"));
+                           heapText("/Corvane/Quillon"));
 }
 
 // Opens the file shared by every message box. Making the folder by its own name, relative to
@@ -29,8 +30,8 @@ std::unique_ptr<QSettings> openSettings()
 {
     const QDir folder(settingsFolder());
     folder.mkpath(folder.dirName());
-    return std::make_unique<QSettings>(
-        folder.filePath(QStringLiteral("dontshowagainmessagebox.ini")), QSettings::IniFormat);
+    return std::make_unique<QSettings>(folder.filePath(heapText("dontshowagainmessagebox.ini")),
+                                       QSettings::IniFormat);
 }
 } // namespace
 
@@ -108,5 +109,5 @@ void CDontShowAgainMessageBox::connectForm()
 
 QString CDontShowAgainMessageBox::checkedKey() const
 {
-    return m_id + QStringLiteral("/checked");
+    return m_id + heapText("/checked");
 }

@@ -1,6 +1,7 @@
 #include "HelpMenuBuilder.h"
 
 #include "HostMenuHelpers.h"
+#include "common/HostIdentifiers.h"
 
 #include <QObject>
 
@@ -22,8 +23,6 @@ const HelpEntry kCheckForUpdates{
 const HelpEntry kReleaseNotes{
     "ID_RELEASENOTES", QT_TRANSLATE_NOOP("QObject", "Quillon Release Notes"), "RELEASENOTES"};
 
-// The host item behind which the module's entries stand.
-constexpr wchar_t kOnlineSupportItem[] = L"PMI_330";
 constexpr int kGlobalOrLocalName = OdEdCommandStack::kGlobal | OdEdCommandStack::kLocal;
 
 // The dots are the menu's convention for "opens something", not part of the translated text.
@@ -55,7 +54,7 @@ void placeAfterOnlineSupport(CFxUIPullDownMenu& help, const std::vector<CFxUIMen
     CFxUIList<CFxUIMenuEntry>& entries = help.GetEntries();
     for (int index = 0; index < entries.GetCount(); ++index) {
         CFxUIMenuEntry* anchor = entries.GetAt(index);
-        if (anchor->GetIdentifier().compare(kOnlineSupportItem) != 0)
+        if (anchor->GetIdentifier().compare(kOnlineSupportItemId) != 0)
             continue;
         for (CFxUIMenuEntry* entry : created) {
             entries.InsertAfter(anchor, entry);
@@ -75,8 +74,7 @@ void addSystemMenuBlock()
 // The entries are recognised by their text here: whatever carries the text goes.
 void removeEntry(const HelpEntry& entry, OdEdCommand& command)
 {
-    if (CFxUIPullDownMenu* help =
-            HostMenuHelpers::findPullDownMenu(HostMenuHelpers::helpMenuIdentifier()))
+    if (CFxUIPullDownMenu* help = HostMenuHelpers::findHelpMenu(kHelpMenuId))
         HostMenuHelpers::removeItemsByText(help->GetEntries(), menuText(entry));
     if (odedRegCmds()->lookupCmd(commandName(entry), kGlobalOrLocalName))
         odedRegCmds()->removeCmd(&command);
@@ -85,8 +83,7 @@ void removeEntry(const HelpEntry& entry, OdEdCommand& command)
 
 void HelpMenuBuilder::add()
 {
-    CFxUIPullDownMenu* help =
-        HostMenuHelpers::findPullDownMenu(HostMenuHelpers::helpMenuIdentifier());
+    CFxUIPullDownMenu* help = HostMenuHelpers::findHelpMenu(kHelpMenuId);
     CFxUIGroup* group = HostMenuHelpers::findItemGroup();
     std::vector<CFxUIMenuEntry*> created;
     for (const HelpEntry* entry : {&kCheckForUpdates, &kReleaseNotes}) {

@@ -1,5 +1,7 @@
 #include "HostMenuHelpers.h"
 
+#include "common/HostIdentifiers.h"
+
 #include <CFxSystemServices.h>
 #include <CFxUI.h>
 
@@ -17,7 +19,7 @@ CFxUIPullDownMenu* helpMenuOf(const CFxUIGroup& group)
     const CFxUIList<CFxUIPullDownMenu>& menus = group.GetPullDownMenus();
     for (int index = 0; index < menus.GetCount(); ++index) {
         CFxUIPullDownMenu* menu = menus.GetAt(index);
-        if (menu->GetIdentifier().compare(HostMenuHelpers::helpMenuIdentifier()) == 0)
+        if (menu->GetIdentifier().compare(kHelpMenuId) == 0)
             return menu;
     }
     return nullptr;
@@ -37,7 +39,7 @@ CFxUIRibbonSystemMenuItem* createSystemMenuItem(CFxUI& ui, const CFxString& menu
 }
 } // namespace
 
-CFxUIPullDownMenu* HostMenuHelpers::findPullDownMenu(const CFxString& identifier)
+CFxUIPullDownMenu* HostMenuHelpers::findHelpMenu(const CFxString& identifier)
 {
     CFxUI* ui = hostUI();
     CFxUIGroup* reference = ui ? ui->GetReferenceMenuGroup() : nullptr;
@@ -57,7 +59,7 @@ CFxUIPullDownMenu* HostMenuHelpers::findPullDownMenu(const CFxString& identifier
 
 bool HostMenuHelpers::containsItem(const CFxString& menuIdentifier, const CFxString& itemIdentifier)
 {
-    const CFxUIPullDownMenu* menu = findPullDownMenu(menuIdentifier);
+    const CFxUIPullDownMenu* menu = findHelpMenu(menuIdentifier);
     if (!menu)
         return false;
     const CFxUIList<CFxUIMenuEntry>& entries = menu->GetEntries();
@@ -73,10 +75,10 @@ CFxUIMenuEntry* HostMenuHelpers::addPullDownItem(const CFxString& menuText,
                                                  const CFxString& macro,
                                                  const CFxString& statusText, CFxUIGroup* group)
 {
-    if (containsItem(helpMenuIdentifier(), identifier))
+    if (containsItem(kHelpMenuId, identifier))
         return nullptr;
     CFxUI* ui = hostUI();
-    CFxUIPullDownMenu* menu = findPullDownMenu(helpMenuIdentifier());
+    CFxUIPullDownMenu* menu = findHelpMenu(kHelpMenuId);
     if (!ui || !menu)
         return nullptr;
     CFxUIMenuItem* item = ui->CreateMenuItem();
@@ -116,7 +118,7 @@ void HostMenuHelpers::insertRibbonSystemMenuItem(const CFxString& menuText, cons
     CFxUIRibbonSystemMenuItem* item = createSystemMenuItem(*ui, menuText, macro, separator);
     CFxUIList<CFxUIRibbonSystemMenuItem>& items = systemMenu->GetSubItems();
     for (int index = 0; index < items.GetCount(); ++index) {
-        if (items.GetAt(index)->GetIdentifier().compare(systemMenuAnchor()) == 0) {
+        if (items.GetAt(index)->GetIdentifier().compare(kSystemMenuAboutId) == 0) {
             items.InsertAt(index, item);
             return;
         }

@@ -13,9 +13,10 @@ class HostMenuHelpers
 {
 public:
     // The Help pull-down menu of the first group, other than the reference group, that has
-    // one, when `identifier` is "ID_MnHelp"; null for any other identifier. Only the Help
-    // menu is ever looked for, and the reference group's read-only copy is never handed out.
-    static CFxUIPullDownMenu* findPullDownMenu(const CFxString& identifier);
+    // one, when `identifier` is the Help menu's; null for any other identifier. No other
+    // pull-down menu is ever looked for, so asking for one finds nothing rather than a menu the
+    // module has no business in; the reference group's read-only copy is never handed out.
+    static CFxUIPullDownMenu* findHelpMenu(const CFxString& identifier);
 
     // Whether that menu has an item whose identifier equals `itemIdentifier` in any case.
     static bool containsItem(const CFxString& menuIdentifier, const CFxString& itemIdentifier);
@@ -50,7 +51,4 @@ public:
                 container.Remove(item);
         }
     }
-
-    static const wchar_t* helpMenuIdentifier() { return L"ID_MnHelp"; }
-    static const wchar_t* systemMenuAnchor() { return L"RSYS_ABOUT"; }
 };

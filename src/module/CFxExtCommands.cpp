@@ -2,10 +2,10 @@
 
 #include "CompanionSettings.h"
 #include "DelayLoadLibrary.h"
+#include "common/HostIdentifiers.h"
 #include "locale/TranslatorLoader.h"
 #include "ribbon/HostMainGroup.h"
 #include "ribbon/RibbonContainers.h"
-#include "ribbon/RibbonIdentifiers.h"
 
 #include <QNOmniplaneView.h>
 #include <QObject>
@@ -48,6 +48,12 @@ void CFxExtCommands::mainFrameCreated(QWidget*)
     }
 }
 
+// Takes out only the Help entries and their commands, the publish entry and the online
+// connector. What else the window got stays on purpose: the Add-Ins tab and panel hold the
+// siblings' buttons, which the siblings put in and take out on their own schedule, not the
+// window's; the question view, the collaboration view and the task pane are the companions'
+// own, and the companions offer no call to take them away (they go with the host's window);
+// the ribbon system-menu block is left as HelpMenuBuilder says.
 void CFxExtCommands::mainFrameDestroyed(QWidget*)
 {
     m_helpMenu.remove();

@@ -1,5 +1,7 @@
 #include "CrashReportVersionRule.h"
 
+#include "common/HeapText.h"
+
 #include <QRegExp>
 #include <QStringList>
 
@@ -9,10 +11,8 @@ bool crashReportInstallCheck(bool versionRecorded, const QString& recorded, cons
         return true;
     if (current.compare(recorded, Qt::CaseInsensitive) == 0)
         return false;
-    // Not a QStringLiteral: Qt keeps compiled patterns in a process-wide cache keyed by the
-    // pattern's text, and a literal's text lives in this library, which goes when the module
-    // is unloaded. A pattern on the heap is Qt's to keep.
-    const QRegExp dot(QString::fromLatin1("\\."), Qt::CaseSensitive, QRegExp::RegExp);
+    // QRegExp keeps compiled patterns in a process-wide cache.
+    const QRegExp dot(heapText("\\."), Qt::CaseSensitive, QRegExp::RegExp);
     const QStringList components = current.split(dot, Qt::SkipEmptyParts);
     return components.value(1).compare(QLatin1String("0"), Qt::CaseInsensitive) == 0;
 }

@@ -1,5 +1,7 @@
 #include "DelayLoadLibrary.h"
 
+#include "common/HeapText.h"
+
 #include <QDir>
 
 #include <CFxSystemServices.h>
@@ -12,7 +14,8 @@ DelayLoadLibrary& DelayLoadLibrary::companion(const char* baseName)
 {
     // One per library for the life of the module; the libraries themselves stay loaded.
     static std::map<QString, std::unique_ptr<DelayLoadLibrary>> imports;
-    const QString name = QString::fromLatin1(baseName);
+    // QLibrary keeps the names of the libraries it loaded.
+    const QString name = heapText(baseName);
     auto& import = imports[name];
     if (!import)
         import.reset(new DelayLoadLibrary(name));

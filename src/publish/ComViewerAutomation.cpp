@@ -70,9 +70,9 @@ BSTR automationString(const QByteArray& text)
 void fillReversed(VARIANT (&reversed)[6], const ViewerOpenArguments& arguments)
 {
     const BSTR texts[4] = {automationString(arguments.path), automationString(arguments.viewerName),
-                           automationString(arguments.firstText),
-                           automationString(arguments.secondText)};
-    const bool flags[2] = {arguments.firstFlag, arguments.secondFlag};
+                           automationString(arguments.reservedText1),
+                           automationString(arguments.reservedText2)};
+    const bool flags[2] = {arguments.reservedFlag1, arguments.reservedFlag2};
     for (int i = 0; i < 4; ++i) {
         VariantInit(&reversed[5 - i]);
         reversed[5 - i].vt = VT_BSTR;
@@ -116,10 +116,11 @@ bool ComViewerAutomation::openThroughInterface(const QString& identifier,
     const auto open = reinterpret_cast<OpenMethod>(
         (*reinterpret_cast<void***>(viewer))[Automation::openInterfaceSlot]);
     BSTR texts[4] = {automationString(arguments.path), automationString(arguments.viewerName),
-                     automationString(arguments.firstText), automationString(arguments.secondText)};
+                     automationString(arguments.reservedText1),
+                     automationString(arguments.reservedText2)};
     open(viewer, texts[0], texts[1], texts[2], texts[3],
-         arguments.firstFlag ? VARIANT_TRUE : VARIANT_FALSE,
-         arguments.secondFlag ? VARIANT_TRUE : VARIANT_FALSE);
+         arguments.reservedFlag1 ? VARIANT_TRUE : VARIANT_FALSE,
+         arguments.reservedFlag2 ? VARIANT_TRUE : VARIANT_FALSE);
     for (BSTR text : texts)
         SysFreeString(text);
     viewer->Release();

@@ -1,5 +1,7 @@
 #include "DBusViewerAutomation.h"
 
+#include "common/HeapText.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
@@ -14,27 +16,21 @@ namespace {
 // Starting a server may start the viewer's process, which takes longer than a call.
 constexpr int kStartTimeoutMs = 10000;
 
-// Strings handed to Qt D-Bus are made on the heap: Qt may keep them after this module is gone.
-QString text(const char* latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
 QDBusMessage busDaemonCall(const char* method)
 {
-    return QDBusMessage::createMethodCall(text("org.freedesktop.DBus"),
-                                          text("/org/freedesktop/DBus"),
-                                          text("org.freedesktop.DBus"), text(method));
+    return QDBusMessage::createMethodCall(heapText("org.freedesktop.DBus"),
+                                          heapText("/org/freedesktop/DBus"),
+                                          heapText("org.freedesktop.DBus"), heapText(method));
 }
 
 QVariantList automationStrings(const ViewerOpenArguments& arguments)
 {
     return {QString::fromLatin1(arguments.path),
             QString::fromLatin1(arguments.viewerName),
-            QString::fromLatin1(arguments.firstText),
-            QString::fromLatin1(arguments.secondText),
-            arguments.firstFlag,
-            arguments.secondFlag};
+            QString::fromLatin1(arguments.reservedText1),
+            QString::fromLatin1(arguments.reservedText2),
+            arguments.reservedFlag1,
+            arguments.reservedFlag2};
 }
 } // namespace
 
@@ -51,8 +47,9 @@ bool DBusViewerAutomation::openThroughInterface(const QString& identifier,
     if (application.isEmpty() ||
         !hasInterface(service, application, Automation::applicationInterface))
         return false;
-    QDBusMessage open = QDBusMessage::createMethodCall(
-        service, application, text(Automation::applicationInterface), text(Automation::openMethod));
+    QDBusMessage open = QDBusMessage::createMethodCall(service, application,
+                                                       heapText(Automation::applicationInterface),
+                                                       heapText(Automation::openMethod));
     open.setArguments(automationStrings(arguments));
     // The method's own result is the viewer's business; as over COM, it is not looked at.
     call(open);
@@ -66,9 +63,9 @@ bool DBusViewerAutomation::openThroughDispatch(const QString& identifier,
     const QString application = applicationPath(service);
     if (application.isEmpty())
         return false;
-    QDBusMessage invoke =
-        QDBusMessage::createMethodCall(service, application, text(Automation::dispatchInterface),
-                                       text(Automation::dispatchMethod));
+    QDBusMessage invoke = QDBusMessage::createMethodCall(service, application,
+                                                         heapText(Automation::dispatchInterface),
+                                                         heapText(Automation::dispatchMethod));
     QVariantList dispatchArguments;
     for (const QVariant& argument : automationStrings(arguments))
         dispatchArguments << QVariant::fromValue(QDBusVariant(argument));
@@ -88,10 +85,11 @@ QString DBusViewerAutomation::applicationPath(const QString& service)
 {
     if (!start(service))
         return {};
-    QDBusMessage get =
-        QDBusMessage::createMethodCall(service, text(Automation::serverPath),
-                                       text("org.freedesktop.DBus.Properties"), text("Get"));
-    get.setArguments({text(Automation::serverInterface), text(Automation::applicationProperty)});
+    QDBusMessage get = QDBusMessage::createMethodCall(service, heapText(Automation::serverPath),
+                                                      heapText("org.freedesktop.DBus.Properties"),
+                                                      heapText("Get"));
+    get.setArguments(
+        {heapText(Automation::serverInterface), heapText(Automation::applicationProperty)});
     const QDBusMessage reply = call(get);
     if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty())
         return {};
@@ -103,11 +101,11 @@ bool DBusViewerAutomation::hasInterface(const QString& service, const QString& p
                                         const char* interface)
 {
     const QDBusMessage reply = call(QDBusMessage::createMethodCall(
-        service, path, text("org.freedesktop.DBus.Introspectable"), text("Introspect")));
+        service, path, heapText("org.freedesktop.DBus.Introspectable"), heapText("Introspect")));
     if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty())
         return false;
     return reply.arguments().constFirst().toString().contains(
-        QString::fromLatin1("<interface name=\"%1\"").arg(text(interface)));
+        heapText("<interface name=\"%1\"").arg(heapText(interface)));
 }
 
 QDBusMessage DBusViewerAutomation::call(const QDBusMessage& message, int timeoutMs)

@@ -1,22 +1,24 @@
 #include "ViewcastPublishEntry.h"
 
+#include "common/HostIdentifiers.h"
 #include "ribbon/ApplicationMenuCommand.h"
+#include "ribbon/ApplicationMenuEntry.h"
 #include "ribbon/ApplicationMenuSearch.h"
+#include "ribbon/HostMainGroup.h"
 
 #include <QObject>
 
 #include <CFxSystemServices.h>
 #include <CFxUI.h>
-#include <ExtCommands/ExportTableRibbon.h>
 
 namespace {
-constexpr const wchar_t kAnchorId[] = L"RSMI_10";
-constexpr const wchar_t kEntryId[] = L"RSMI_PUBVIEWCAST";
+constexpr wchar_t kEntryId[] = L"RSMI_PUBVIEWCAST";
 
 CFxUICommand* createPublishCommand(CFxUI& ui)
 {
-    // The resource name of the small icon has always carried the extension twice; the entry
-    // keeps it so.
+    // The small icon's name carries its extension twice and names no resource, so the entry
+    // shows no small icon. The name stays: it is part of the command as the UI model holds it,
+    // which others read and compare, and the large icon serves the entry.
     return ApplicationMenuCommand::create(
         ui, CFxString(L"ID_PUBVIEWCAST"), CFxString(L"_VIEWCAST"),
         QObject::tr("Opens the drawings in Viewcast"),
@@ -24,22 +26,14 @@ CFxUICommand* createPublishCommand(CFxUI& ui)
         CFxString(L":/images/BFResources/Resources/vcst_Publish_16.png.png"));
 }
 
-CFxUIRibbonSystemMenuItem* firstSeparator(const CFxUIList<CFxUIRibbonSystemMenuItem>& entries)
+// The application menu's top entry; null without a main group.
+CFxUIRibbonSystemMenuItem* applicationMenu(const CFxUI* ui)
 {
-    const CFxString separatorId(CFxUIRibbonSystemMenuItem::separatorIdentifier());
-    for (CFxUIRibbonSystemMenuItem* entry : entries) {
-        if (entry->GetIdentifier().equalNoCase(separatorId))
-            return entry;
-    }
-    return nullptr;
-}
-} // namespace
-
-CFxUIRibbonSystemMenuItem* ViewcastPublishEntry::applicationMenu(CFxUI* ui)
-{
-    const CFxUIGroup* mainGroup = ExportTableRibbon::GetExportTableInstance()->GetMainGroup(ui);
+    const CFxUIGroup* mainGroup = HostMainGroup::find(ui);
     return mainGroup ? ApplicationMenuSearch::top(*mainGroup) : nullptr;
 }
+
+} // namespace
 
 void ViewcastPublishEntry::add()
 {
@@ -47,31 +41,23 @@ void ViewcastPublishEntry::add()
     CFxUIRibbonSystemMenuItem* menu = applicationMenu(ui);
     if (!menu)
         return;
-    CFxUIList<CFxUIRibbonSystemMenuItem>& entries = menu->GetSubItems();
-    CFxUIRibbonSystemMenuItem* anchor =
-        ApplicationMenuSearch::matchOrLast(entries, CFxString(kAnchorId));
-    if (ExportTableRibbon::GetExportTableInstance()->SearchRibbonMenuItem(menu,
-                                                                          CFxString(kEntryId)))
-        return;
-    CFxUICommand* command = createPublishCommand(*ui);
-    CFxUIRibbonSystemMenuItem* separator =
-        ui->CreateRibbonSystemMenuItem(CFxString(CFxUIRibbonSystemMenuItem::separatorIdentifier()));
-    const bool separated = anchor && entries.InsertAfter(anchor, separator);
-    CFxUIRibbonSystemMenuItem* entry = ui->CreateRibbonSystemMenuItem(CFxString(kEntryId));
-    entry->SetText(CFxString(L"Publish Viewcast"));
-    entry->AttachCommand(command);
-    // Without an anchor the entry is made but placed nowhere.
-    if (separated)
-        entries.InsertAfter(separator, entry);
+    const ApplicationMenuEntry entry(CFxString(kEntryId), CFxString(L"Publish Viewcast"),
+                                     createPublishCommand);
+    // The entry stands beside the export menu, among the top entry's sub-entries.
+    entry.addAfter(*ui, *menu, CFxString(kExportMenuId),
+                   ApplicationMenuEntry::WithoutAnchor::PlaceNowhere);
 }
 
+// Separators all carry one identifier and no owner, so the entry's own is not looked for: the
+// first separator of the menu goes, whoever put it there (a menu that held one before the entry
+// came loses that one, and the entry's own stays). The entry is found by its identifier.
 void ViewcastPublishEntry::remove()
 {
     CFxUIRibbonSystemMenuItem* menu = applicationMenu(GetFxSystemServices()->GetUI());
     if (!menu)
         return;
     CFxUIList<CFxUIRibbonSystemMenuItem>& entries = menu->GetSubItems();
-    entries.Remove(firstSeparator(entries));
-    entries.Remove(ExportTableRibbon::GetExportTableInstance()->SearchRibbonMenuItem(
-        menu, CFxString(kEntryId)));
+    entries.Remove(ApplicationMenuSearch::child(
+        menu, CFxString(CFxUIRibbonSystemMenuItem::separatorIdentifier())));
+    entries.Remove(ApplicationMenuSearch::child(menu, CFxString(kEntryId)));
 }

@@ -2,6 +2,7 @@
 
 #include "ReferencedDrawingCopier.h"
 #include "ViewerVersion.h"
+#include "common/HeapText.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -18,13 +19,6 @@
 #include <utility>
 
 namespace {
-// Texts that Qt may keep (settings keys, paths) are made on the heap, never from a literal of
-// this module: the module can be unloaded while Qt still holds them.
-QString text(const char* latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
 QString toQt(const OdString& value)
 {
     return QString::fromStdWString(value.wide());
@@ -35,7 +29,8 @@ OdString toOd(const QString& value)
     return OdString(value.toStdWString());
 }
 
-// The format version code the host has always written its drawings with.
+// The format version code of the drawings the host itself writes, so that the viewer reads
+// the copy as it reads the host's own files.
 constexpr int kDrawingVersionCode = 27;
 constexpr int kDxfPrecision = 16;
 } // namespace
@@ -59,15 +54,15 @@ int ViewcastPublisher::publish(OdRxObject* commandDatabase)
         showError();
         return RTNORM;
     }
-    copyAndOpen(database.get(), folder, copyPath, drawing.baseName() + text(".vcst"));
+    copyAndOpen(database.get(), folder, copyPath, drawing.baseName() + heapText(".vcst"));
     return RTNORM;
 }
 
 int ViewcastPublisher::registeredVersion()
 {
     const auto key =
-        CFxRegistry::openKey(text("HKEY_CLASSES_ROOT\\VcModelViewer.VcstViewer\\CurVer"));
-    return viewerVersion(key->value(text("Default")).toString());
+        CFxRegistry::openKey(heapText("HKEY_CLASSES_ROOT\\VcModelViewer.VcstViewer\\CurVer"));
+    return viewerVersion(key->value(heapText("Default")).toString());
 }
 
 bool ViewcastPublisher::findServer(int newest)
@@ -85,7 +80,7 @@ bool ViewcastPublisher::findServer(int newest)
 
 QString ViewcastPublisher::scratchFolder()
 {
-    const QString name = text("temp_tarn");
+    const QString name = heapText("temp_tarn");
     QDir home(QDir::homePath());
     // Only an empty folder goes; one that still holds files stays, with its files.
     home.rmdir(name);

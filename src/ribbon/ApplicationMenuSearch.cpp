@@ -1,6 +1,7 @@
 #include "ApplicationMenuSearch.h"
 
 #include "FirstWithIdentifier.h"
+#include "common/HostIdentifiers.h"
 
 #include <CFxUIGroup.h>
 
@@ -14,7 +15,7 @@ ApplicationMenuSearch::matchOrLast(const CFxUIList<CFxUIRibbonSystemMenuItem>& e
 
 CFxUIRibbonSystemMenuItem* ApplicationMenuSearch::top(const CFxUIGroup& mainGroup)
 {
-    return matchOrLast(mainGroup.GetApplicationMenu(), CFxString(L"RSM"));
+    return matchOrLast(mainGroup.GetApplicationMenu(), CFxString(kApplicationMenuTopId));
 }
 
 CFxUIRibbonSystemMenuItem* ApplicationMenuSearch::child(const CFxUIRibbonSystemMenuItem* parent,

@@ -12,10 +12,11 @@ class ApplicationMenuSearch
 {
 public:
     // The first of `entries` whose identifier is `id`. When none is, the last entry looked at
-    // stands in for it, as the host's own menu code has it; null only for an empty list.
+    // stands in for it, so that what goes after a missing anchor still goes in, at the end;
+    // null only for an empty list.
     static CFxUIRibbonSystemMenuItem*
     matchOrLast(const CFxUIList<CFxUIRibbonSystemMenuItem>& entries, const CFxString& id);
-    // The application menu's top entry "RSM" of the main group, as matchOrLast finds it.
+    // The application menu's top entry of the main group, as matchOrLast finds it.
     static CFxUIRibbonSystemMenuItem* top(const CFxUIGroup& mainGroup);
     // The first direct sub-entry of `parent` whose identifier is `id`; null when there is none
     // or `parent` is null.

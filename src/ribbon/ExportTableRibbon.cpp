@@ -1,6 +1,8 @@
 #include "ApplicationMenuCommand.h"
+#include "ApplicationMenuEntry.h"
 #include "ApplicationMenuSearch.h"
 #include "HostMainGroup.h"
+#include "common/HostIdentifiers.h"
 #include "common/ProcessLifetime.h"
 
 #include <QObject>
@@ -12,9 +14,7 @@
 namespace {
 ExportTableRibbon* g_instance = nullptr;
 
-constexpr const wchar_t kExportMenuId[] = L"RSMI_10";
-constexpr const wchar_t kAnchorId[] = L"RSMI_13";
-constexpr const wchar_t kEntryId[] = L"RSMI_EXPORTTABLE";
+constexpr wchar_t kEntryId[] = L"RSMI_EXPORTTABLE";
 
 CFxUICommand* createExportTableCommand(CFxUI& ui)
 {
@@ -25,27 +25,21 @@ CFxUICommand* createExportTableCommand(CFxUI& ui)
         CFxString(L":/images/BFResources/Resources/PK_BOM_EXPORT_small.png"));
 }
 
-// A separator, then the entry, after "RSMI_13" (or after the last sub-entry without it).
+// A separator, then the entry, after the export menu's anchor (or after its last sub-entry
+// without it).
 void addEntry(CFxUI& ui, CFxUIRibbonSystemMenuItem& exportMenu)
 {
-    CFxUIList<CFxUIRibbonSystemMenuItem>& entries = exportMenu.GetSubItems();
-    CFxUIRibbonSystemMenuItem* anchor =
-        ApplicationMenuSearch::matchOrLast(entries, CFxString(kAnchorId));
-    if (ApplicationMenuSearch::child(&exportMenu, CFxString(kEntryId)))
-        return;
-    CFxUICommand* command = createExportTableCommand(ui);
-    CFxUIRibbonSystemMenuItem* separator =
-        ui.CreateRibbonSystemMenuItem(CFxString(CFxUIRibbonSystemMenuItem::separatorIdentifier()));
-    entries.InsertAfter(anchor, separator);
-    CFxUIRibbonSystemMenuItem* entry = ui.CreateRibbonSystemMenuItem(CFxString(kEntryId));
-    entry->SetText(CFxString(L"Export Table"));
-    entry->AttachCommand(command);
-    entries.InsertAfter(separator, entry);
+    const ApplicationMenuEntry entry(CFxString(kEntryId), CFxString(L"Export Table"),
+                                     createExportTableCommand);
+    entry.addAfter(ui, exportMenu, CFxString(kExportTableAnchorId),
+                   ApplicationMenuEntry::WithoutAnchor::PlaceFirst);
 }
 
-// Takes out the entries "RSMI_EXPORTTABLE" only; the separator and the command stay, so that
-// loading again adds a separator of its own. The walk goes on at the next index after a
-// removal, as the host's menu code does.
+// Takes out the entries "RSMI_EXPORTTABLE" only, on purpose. The separator stays: separators
+// all carry one identifier and no owner, so the one that loading put in cannot be told from
+// the host's own (loading again adds one more). The command stays with the UI model that made
+// it. One pass, moving on after a removal too: loading puts in one entry, and that is the one
+// taken out, while an entry of the same identifier that closes the gap is left alone.
 void removeEntries(CFxUIRibbonSystemMenuItem& exportMenu)
 {
     CFxUIList<CFxUIRibbonSystemMenuItem>& entries = exportMenu.GetSubItems();
@@ -56,7 +50,7 @@ void removeEntries(CFxUIRibbonSystemMenuItem& exportMenu)
     }
 }
 
-// Calls `change` with every sub-entry "RSMI_10" of the application menu's top entry.
+// Calls `change` with every export menu under the application menu's top entry.
 template <class Change>
 void forEachExportMenu(CFxUIGroup& mainGroup, Change change)
 {

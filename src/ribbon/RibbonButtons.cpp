@@ -13,8 +13,10 @@ namespace {
 // Display styles of the host's ribbon buttons.
 constexpr int kLargeWithTextBelow = 1;
 constexpr int kSmallWithTextBeside = 3;
-// A split button looks like a small button and runs the entry chosen last.
-constexpr int kSplitStyle = 3;
+// A split button's own style values: it shows as a small button with its text beside it (the
+// same value as kSmallWithTextBeside, in the split style's own setting) and runs the entry
+// chosen last.
+constexpr int kSplitSmallWithTextBeside = 3;
 constexpr int kSplitRunsLastChosen = 1;
 
 bool isType(const RibbonItem& item, const char* type)
@@ -36,7 +38,7 @@ CFxUIRibbonButton* makeSplitButton(CFxUI& ui, const RibbonItem& item)
 {
     CFxUIRibbonButton* button = ui.CreateRibbonButton(CFxUIRibbonButton::kSplit, item.id);
     button->SetText(item.text);
-    button->SetSplitStyle(kSplitStyle);
+    button->SetSplitStyle(kSplitSmallWithTextBeside);
     button->SetSplitBehavior(kSplitRunsLastChosen);
     return button;
 }
@@ -44,9 +46,9 @@ CFxUIRibbonButton* makeSplitButton(CFxUI& ui, const RibbonItem& item)
 // One list of records being walked, and the button its records go under.
 struct Level
 {
-    const RibbonItem* owner;
-    int next;
-    CFxUIRibbonButton* parent;
+    const RibbonItem* record;  // the record whose children are walked
+    int nextChild;             // the index of the child to look at next
+    CFxUIRibbonButton* parent; // the button the children's buttons go under; null for none
 };
 } // namespace
 
@@ -88,12 +90,12 @@ void RibbonButtons::addChildren(CFxUI& ui, CFxUIGroup& mainGroup, const RibbonIt
     QSet<const RibbonItem*> walking{&item};
     while (!levels.empty()) {
         Level& level = levels.back();
-        if (level.next >= level.owner->children.size()) {
-            walking.remove(level.owner);
+        if (level.nextChild >= level.record->children.size()) {
+            walking.remove(level.record);
             levels.pop_back();
             continue;
         }
-        const RibbonItem* child = level.owner->children.at(level.next++);
+        const RibbonItem* child = level.record->children.at(level.nextChild++);
         if (!child || walking.contains(child))
             continue;
         CFxUICommand* command = RibbonCommands::findOrCreate(ui, mainGroup, *child);

@@ -1,7 +1,7 @@
 #include "RibbonContainers.h"
 
 #include "FirstWithIdentifier.h"
-#include "RibbonIdentifiers.h"
+#include "common/HostIdentifiers.h"
 
 #include <CFxUI.h>
 

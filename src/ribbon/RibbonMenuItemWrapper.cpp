@@ -4,7 +4,7 @@
 #include "RibbonButtons.h"
 #include "RibbonCommands.h"
 #include "RibbonContainers.h"
-#include "RibbonIdentifiers.h"
+#include "common/HostIdentifiers.h"
 #include "common/ProcessLifetime.h"
 
 #include <QDebug>
@@ -42,7 +42,10 @@ bool pruneEmptyPanel(CFxUIGroup& mainGroup, const RibbonContainers::RowPlace& pl
 }
 
 // The data-management split button of the Add-Ins row, looked for by its exact identifier.
-// Every button looked at is written to the debug log on the way.
+// Every button looked at is written to the debug log on the way. The message names a fixed
+// source, line and function instead of this code's own: whoever reads the debug log (a message
+// pattern with %{file}, %{line} and %{function}, a sibling's support tools) finds these
+// messages by those three, so they must not change when this file does.
 CFxUIRibbonButton* dataManagementButton(const CFxUIRibbonRow& row)
 {
     const CFxString wanted(kDataManagementButtonId);

@@ -1,5 +1,6 @@
 #include "RibbonOrderTable.h"
 
+#include "common/HeapText.h"
 #include "common/ProcessLifetime.h"
 
 namespace {
@@ -7,13 +8,12 @@ QMap<int, QString>* g_table = nullptr;
 
 QMap<int, QString>* makeTable()
 {
-    // Texts on the heap rather than literals: the table outlives the module, whose read-only
-    // data goes when it is unloaded.
+    // The table outlives the module.
     auto* table = new QMap<int, QString>;
-    table->insert(0, QString::fromLatin1("ID_DRAWCOMPARE_ITEM"));
-    table->insert(1, QString::fromLatin1("ID_GCODE_ITEM"));
-    table->insert(2, QString::fromLatin1("ID_VAULTLINE_ITEM"));
-    table->insert(3, QString::fromLatin1("ID_PK_PARTKIT"));
+    table->insert(0, heapText("ID_DRAWCOMPARE_ITEM"));
+    table->insert(1, heapText("ID_GCODE_ITEM"));
+    table->insert(2, heapText("ID_VAULTLINE_ITEM"));
+    table->insert(3, heapText("ID_PK_PARTKIT"));
     return table;
 }
 } // namespace
