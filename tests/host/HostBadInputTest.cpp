@@ -121,8 +121,9 @@ protected:
         QFile file(host.home() + '/' + input.file);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(input.content);
-        if (input.size > input.content.size())
+        if (input.size > input.content.size()) {
             EXPECT_TRUE(file.resize(input.size)); // sparse: nothing of it is written
+        }
         return file.fileName();
     }
 };
