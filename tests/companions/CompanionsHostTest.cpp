@@ -2,6 +2,7 @@
 // module reaches, in which order, and what the user's switches do.
 #include "HostProcess.h"
 #include "StageFiles.h"
+#include "TestPrinters.h"
 
 #include <QDir>
 #include <QFile>
@@ -142,35 +143,47 @@ TEST_F(CompanionsHost, EveryCompanionInTheReactorsOrderOnCreateAndDestroy)
     EXPECT_EQ(args, QJsonArray({installation, "ENT"}));
 }
 
-TEST_F(CompanionsHost, SwitchesTurnTheNetworkCompanionsAndTheCollaborationConnectorOnAndOff)
+struct SwitchCase
+{
+    const char* name;
+    std::optional<QVariant> collaboration;
+    std::optional<QString> networkDisabled;
+    QString calls;
+};
+
+// How failures and CTest name the case.
+void PrintTo(const SwitchCase& each, std::ostream* out)
+{
+    *out << each.name;
+}
+
+// The calls of a session that creates the main window and ends (which destroys it).
+const QString kNetworkOn = "addiQuestionView addXmlTodxf addTaskPane removeXmlTodxf";
+
+class CompanionSwitches : public CompanionsHost, public ::testing::WithParamInterface<SwitchCase>
+{};
+
+TEST_P(CompanionSwitches, TurnTheNetworkCompanionsAndTheCollaborationConnectorOnAndOff)
 {
     install(m_all);
-    // The calls of a session that creates the main window and ends (which destroys it).
-    const QString networkOn = "addiQuestionView addXmlTodxf addTaskPane removeXmlTodxf";
-    const struct
-    {
-        std::optional<QVariant> collaboration;
-        std::optional<QString> networkDisabled;
-        QString calls;
-    } cases[] = {
-        {std::nullopt, QString(" YES "), "addXmlTodxf removeXmlTodxf"},
-        {false, QString("no"), networkOn},
-        {0, QString("1"), networkOn},
-        {std::nullopt, QString("true"), networkOn},
-        {true, QString("yes please"),
-         "addiQuestionView addQNOmniplaneView addXmlTodxf addTaskPane removeXmlTodxf"},
-    };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.networkDisabled->toStdString());
-        setSwitches(each.collaboration, each.networkDisabled);
-        const HostResult result = run("mainframe create");
-        EXPECT_EQ(result.events.values("companion-call", "call").join(' '), each.calls);
-        EXPECT_EQ(
-            result.events.values("module-loaded", "module").contains("QuillonOmniplaneConnector"),
-            each.calls.contains("addQNOmniplaneView"))
-            << "loaded only when switched on";
-    }
+    setSwitches(GetParam().collaboration, GetParam().networkDisabled);
+    const HostResult result = run("mainframe create");
+    EXPECT_EQ(result.events.values("companion-call", "call").join(' '), GetParam().calls);
+    EXPECT_EQ(result.events.values("module-loaded", "module").contains("QuillonOmniplaneConnector"),
+              GetParam().calls.contains("addQNOmniplaneView"))
+        << "loaded only when switched on";
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Settings, CompanionSwitches,
+    ::testing::Values(
+        SwitchCase{"NetworkDisabledWithBlanksAndCapitals", std::nullopt, QString(" YES "),
+                   "addXmlTodxf removeXmlTodxf"},
+        SwitchCase{"CollaborationFalseNetworkNo", false, QString("no"), kNetworkOn},
+        SwitchCase{"CollaborationZeroNetworkOne", 0, QString("1"), kNetworkOn},
+        SwitchCase{"CollaborationAbsentNetworkTrue", std::nullopt, QString("true"), kNetworkOn},
+        SwitchCase{"CollaborationTrueNetworkYesPlease", true, QString("yes please"),
+                   "addiQuestionView addQNOmniplaneView addXmlTodxf addTaskPane removeXmlTodxf"}));
 
 TEST_F(CompanionsHost, WithoutAnyCompanionTheRestOfTheMainWindowWorkStillHappens)
 {

@@ -5,6 +5,7 @@
 #include "HostError.h"
 #include "HostOptions.h"
 #include "ScriptParser.h"
+#include "TestPrinters.h"
 #include "TranslationObserver.h"
 
 #include <QCoreApplication>

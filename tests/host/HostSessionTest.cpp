@@ -1,6 +1,7 @@
 // quillon-host run as a user runs it, read through its events: the module's whole life in a
 // session, the crash-report checks across sessions, output modes and where paths lead.
 #include "HostProcess.h"
+#include "TestPrinters.h"
 
 #include <QDir>
 #include <QFile>

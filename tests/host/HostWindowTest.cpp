@@ -3,6 +3,7 @@
 #include "CommandLineEdit.h"
 #include "DrawingScene.h"
 #include "RibbonWidget.h"
+#include "TestPrinters.h"
 
 #include <QFile>
 #include <QMenu>

@@ -10,6 +10,7 @@
 #include "IsolatedHome.h"
 #include "RibbonWidget.h"
 #include "ScriptRunner.h"
+#include "TestPrinters.h"
 #include "XvfbServer.h"
 
 #include <QApplication>

@@ -1,4 +1,6 @@
 // The host's string: comparisons with and without letter case, and lossless conversions.
+#include "TestPrinters.h"
+
 #include <gtest/gtest.h>
 
 #include <CFxString.h>

@@ -1,5 +1,7 @@
 // What a command typed on the host's command line gets: the words after its name as answers
 // to its prompts, and Enter (the prompt's default) when they run out.
+#include "TestPrinters.h"
+
 #include <gtest/gtest.h>
 
 #include <CFxCommandLineIO.h>

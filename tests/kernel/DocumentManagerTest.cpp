@@ -1,5 +1,7 @@
 // The document manager: numbering, which document is active after opening and closing, the
 // order in which its reactors hear of it, and reactors that leave or die while attached.
+#include "TestPrinters.h"
+
 #include <gtest/gtest.h>
 
 #include <CFxDocumentManager.h>

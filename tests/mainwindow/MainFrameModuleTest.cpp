@@ -2,6 +2,7 @@
 // platform's dynamic linker into a host whose user interface comes from a profile.
 #include "EventRecorder.h"
 #include "LoadedModule.h"
+#include "TestPrinters.h"
 #include "UiModel.h"
 
 #include <gtest/gtest.h>
@@ -155,26 +156,36 @@ TEST_F(MainFrameTest, WithoutOnlineSupportTheEntriesStayAtTheEndInCreationOrder)
 
 // The anchors "PMI_330" and "RSYS_ABOUT" are compared exactly: a look-alike in lower case is
 // no anchor, so the Help entries stay at the end and the system menu gets nothing.
-TEST_F(MainFrameTest, WithoutTheExactAnchorsTheEntriesStayAtTheEndAndTheSystemMenuAsItWas)
+struct MissingAnchorCase
 {
-    const struct
-    {
-        const char* fixture;
-        QStringList help;
-    } cases[] = {
-        {"no-about", {"PMI_300", "PMI_330", kCheck, kNotes}},
-        {"lowercase-anchors", {"PMI_300", "pmi_330", kCheck, kNotes}},
-    };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.fixture);
-        useFixture(each.fixture);
-        const QStringList systemMenu = model().systemMenu();
-        create();
-        EXPECT_EQ(model().systemMenu(), systemMenu);
-        EXPECT_EQ(help(kMain), each.help);
-        destroy();
-    }
+    const char* fixture;
+    QStringList help;
+};
+
+// How failures and CTest name the case.
+void PrintTo(const MissingAnchorCase& each, std::ostream* out)
+{
+    *out << each.fixture;
 }
+
+class MainFrameWithoutExactAnchors : public MainFrameTest,
+                                     public ::testing::WithParamInterface<MissingAnchorCase>
+{};
+
+TEST_P(MainFrameWithoutExactAnchors, TheEntriesStayAtTheEndAndTheSystemMenuAsItWas)
+{
+    useFixture(GetParam().fixture);
+    const QStringList systemMenu = model().systemMenu();
+    create();
+    EXPECT_EQ(model().systemMenu(), systemMenu);
+    EXPECT_EQ(help(kMain), GetParam().help);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Profiles, MainFrameWithoutExactAnchors,
+    ::testing::Values(MissingAnchorCase{"no-about", {"PMI_300", "PMI_330", kCheck, kNotes}},
+                      MissingAnchorCase{"lowercase-anchors",
+                                        {"PMI_300", "pmi_330", kCheck, kNotes}}));
 
 TEST_F(MainFrameTest, OnlyAMenuCalledExactlyIdMnHelpOutsideTheReferenceGroupIsTheHelpMenu)
 {

@@ -2,6 +2,7 @@
 // translators installed, the texts of the Help entries and the product pages they open.
 #include "HostProcess.h"
 #include "StageFiles.h"
+#include "TestPrinters.h"
 #include "UiModel.h"
 
 #include <QDir>

@@ -1,5 +1,6 @@
 // The labs page command, which no host run reaches: it is built here from the module's source.
 #include "EventRecorder.h"
+#include "TestPrinters.h"
 #include "UrlRecorder.h"
 #include "locale/CFxPlotPronto.h"
 

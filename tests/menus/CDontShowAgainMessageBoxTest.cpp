@@ -1,6 +1,7 @@
 // The don't-show-again message box as callers, users and derived boxes meet it: when it shows,
 // what its buttons store in the settings file that all message boxes share, and its form.
 #include "IsolatedHome.h"
+#include "TestPrinters.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -122,42 +123,75 @@ TEST_F(DontShowAgainMessageBox, TickedAndAcceptedSilencesThatMessageAloneForGood
     EXPECT_EQ(show("second", cancel), Showing(QDialog::Rejected, 1));
 }
 
-TEST_F(DontShowAgainMessageBox, TickedButCancelledOrClosedStoresNothing)
+struct UnticksBy
 {
-    const std::pair<const char*, Action> ways[] = {
-        {"Cancel", cancel}, {"window closed", [](QWidget* dialog) { dialog->close(); }}};
-    for (const auto& way : ways) {
-        SCOPED_TRACE(way.first);
-        EXPECT_EQ(show("first",
-                       [&way](QWidget* dialog) {
-                           checkBox(dialog)->click();
-                           way.second(dialog);
-                       }),
-                  Showing(QDialog::Rejected, 1));
-        EXPECT_EQ(stored("first"), "(absent)");
-    }
+    const char* name;
+    Action leave; // how the user leaves the box without accepting it
+};
+
+// How failures and CTest name the case.
+void PrintTo(const UnticksBy& each, std::ostream* out)
+{
+    *out << each.name;
 }
 
-TEST_F(DontShowAgainMessageBox, OnlyAStoredCheckedStateSuppressesAndAWordReadsAsUnchecked)
+class DontShowAgainLeft : public DontShowAgainMessageBox,
+                          public ::testing::WithParamInterface<UnticksBy>
+{};
+
+TEST_P(DontShowAgainLeft, TickedButNotAcceptedStoresNothing)
 {
-    {
-        QSettings settings(settingsFile(), QSettings::IniFormat);
-        settings.setValue("partial/checked", 1);
-        settings.setValue("word/checked", "yes");
-    }
-    for (const auto& [id, expected] :
-         {std::pair("partial", Qt::PartiallyChecked), std::pair("word", Qt::Unchecked)}) {
-        SCOPED_TRACE(id);
-        Qt::CheckState state = Qt::Checked;
-        EXPECT_EQ(show(id,
-                       [&state](QWidget* dialog) {
-                           state = checkBox(dialog)->checkState();
-                           cancel(dialog);
-                       }),
-                  Showing(QDialog::Rejected, 1));
-        EXPECT_EQ(state, expected);
-    }
+    const Action leave = GetParam().leave;
+    EXPECT_EQ(show("first",
+                   [&leave](QWidget* dialog) {
+                       checkBox(dialog)->click();
+                       leave(dialog);
+                   }),
+              Showing(QDialog::Rejected, 1));
+    EXPECT_EQ(stored("first"), "(absent)");
 }
+
+INSTANTIATE_TEST_SUITE_P(Ways, DontShowAgainLeft,
+                         ::testing::Values(UnticksBy{"Cancel", cancel},
+                                           UnticksBy{"WindowClosed",
+                                                     [](QWidget* dialog) { dialog->close(); }}));
+
+// Only a stored checked state suppresses the box: any other stored state shows it, with the
+// check box as the state reads (a word reads as unchecked).
+struct StoredState
+{
+    const char* id;
+    QVariant stored;
+    Qt::CheckState shown;
+};
+
+// How failures and CTest name the case.
+void PrintTo(const StoredState& each, std::ostream* out)
+{
+    *out << each.id;
+}
+
+class DontShowAgainStored : public DontShowAgainMessageBox,
+                            public ::testing::WithParamInterface<StoredState>
+{};
+
+TEST_P(DontShowAgainStored, OtherThanCheckedShowsTheBoxWithTheStateAsItReads)
+{
+    QSettings(settingsFile(), QSettings::IniFormat)
+        .setValue(QString(GetParam().id) + "/checked", GetParam().stored);
+    Qt::CheckState state = Qt::Checked;
+    EXPECT_EQ(show(GetParam().id,
+                   [&state](QWidget* dialog) {
+                       state = checkBox(dialog)->checkState();
+                       cancel(dialog);
+                   }),
+              Showing(QDialog::Rejected, 1));
+    EXPECT_EQ(state, GetParam().shown);
+}
+
+INSTANTIATE_TEST_SUITE_P(States, DontShowAgainStored,
+                         ::testing::Values(StoredState{"partial", 1, Qt::PartiallyChecked},
+                                           StoredState{"word", "yes", Qt::Unchecked}));
 
 // Permissions do not stop a test that runs as root; a file where the folder belongs does.
 TEST_F(DontShowAgainMessageBox, AnUnwritableDataFolderLeavesABoxThatWorksAndStoresNothing)

@@ -3,6 +3,7 @@
 #include "EventRecorder.h"
 #include "IsolatedHome.h"
 #include "LoadedModule.h"
+#include "TestPrinters.h"
 
 #include <QTemporaryDir>
 
@@ -75,34 +76,52 @@ private:
     int m_saved[4] = {};
 };
 
-TEST_F(CrashReportHook, TheRecordedVersionChoosesTheCheckThatOnlyTheFirstActivationMakes)
+namespace {
+struct RecordedVersionCase
 {
-    struct Case
-    {
-        std::optional<QString> recorded;
-        std::array<int, 4> running;
-        QStringList calls;
-        std::optional<QString> recordedAfter;
-    };
-    const QStringList install{"getRegVersion", "initialCheckOnInstall", "setRegVersion"};
-    const QStringList reminder{"getRegVersion", "reminderCheck"};
-    // The home is new: nothing is recorded for the first run.
-    const Case cases[] = {{std::nullopt, {2017, 0, 5, 1234}, install, "2017.0.1234"},
-                          {"2017.0.3", {2017, 0, 9, 3}, reminder, "2017.0.3"},
-                          {"2016.1.7", {2017, 0, 9, 3}, install, "2017.0.3"},
-                          {"2017.0.3", {2017, 1, 0, 9}, reminder, "2017.0.3"}};
-    for (const Case& run : cases) {
-        SCOPED_TRACE(qPrintable(run.recorded.value_or("nothing recorded")));
-        start(run.running, run.recorded);
-        EXPECT_EQ(calls(), QStringList({"getRegVersion"}));
-        const int first = openDocument();
-        openDocument();
-        EXPECT_TRUE(documents()->ActivateDocument(first));
-        EXPECT_EQ(calls(), run.calls);
-        EXPECT_EQ(recordedVersion(), run.recordedAfter);
-        loaded.reset();
-    }
+    const char* name;
+    std::optional<QString> recorded; // none: the home is new, nothing is recorded
+    std::array<int, 4> running;
+    QStringList calls;
+    std::optional<QString> recordedAfter;
+};
+
+// How failures and CTest name the case.
+void PrintTo(const RecordedVersionCase& each, std::ostream* out)
+{
+    *out << each.name;
 }
+
+const QStringList kInstallCheck{"getRegVersion", "initialCheckOnInstall", "setRegVersion"};
+const QStringList kReminderCheck{"getRegVersion", "reminderCheck"};
+} // namespace
+
+class CrashReportRecordedVersion : public CrashReportHook,
+                                   public ::testing::WithParamInterface<RecordedVersionCase>
+{};
+
+TEST_P(CrashReportRecordedVersion, ChoosesTheCheckThatOnlyTheFirstActivationMakes)
+{
+    const RecordedVersionCase& run = GetParam();
+    start(run.running, run.recorded);
+    EXPECT_EQ(calls(), QStringList({"getRegVersion"}));
+    const int first = openDocument();
+    openDocument();
+    EXPECT_TRUE(documents()->ActivateDocument(first));
+    EXPECT_EQ(calls(), run.calls);
+    EXPECT_EQ(recordedVersion(), run.recordedAfter);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Runs, CrashReportRecordedVersion,
+    ::testing::Values(
+        RecordedVersionCase{
+            "FirstRun", std::nullopt, {2017, 0, 5, 1234}, kInstallCheck, "2017.0.1234"},
+        RecordedVersionCase{"SameVersion", "2017.0.3", {2017, 0, 9, 3}, kReminderCheck, "2017.0.3"},
+        RecordedVersionCase{
+            "OlderVersionRecorded", "2016.1.7", {2017, 0, 9, 3}, kInstallCheck, "2017.0.3"},
+        RecordedVersionCase{
+            "LaterServiceRelease", "2017.0.3", {2017, 1, 0, 9}, kReminderCheck, "2017.0.3"}));
 
 TEST_F(CrashReportHook, ASecondStartCreatesNoSecondReactor)
 {

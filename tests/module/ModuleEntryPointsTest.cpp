@@ -1,6 +1,7 @@
 // The module's two exported entry points, called the way the platform calls them: straight
 // from the library, without the dynamic linker in between.
 #include "LoadedModule.h"
+#include "TestPrinters.h"
 #include "TestStrings.h"
 
 #include <gtest/gtest.h>

@@ -3,6 +3,7 @@
 #include "EventRecorder.h"
 #include "IsolatedHome.h"
 #include "LoadedModule.h"
+#include "TestPrinters.h"
 #include "TestStrings.h"
 
 #include <QRegExp>

@@ -1,6 +1,7 @@
 // The command stack: finding commands as a user types them, refusing duplicates, holding
 // references, and running a command between the editor reactors' notifications.
 #include "EventRecorder.h"
+#include "TestPrinters.h"
 #include "TestStrings.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,6 @@
 // Drawings of the reference platform: an ASCII DXF file is read into a database that keeps
 // every group, written back exactly as it was read, and refused with a reason otherwise.
+#include "TestPrinters.h"
 #include "TestStrings.h"
 
 #include <QFile>
@@ -66,30 +67,46 @@ TEST_F(DxfDrawing, DrawingsAreWrittenBackAsTheyWereRead)
     }
 }
 
-TEST_F(DxfDrawing, WhatIsNotAnAsciiDrawingIsRefusedWithTheReason)
+struct NotADrawing
 {
-    const struct
-    {
-        QByteArray content;
-        const char* reason;
-    } cases[] = {
-        {"", "the file is empty"},
-        {"AutoCAD Binary DXF\r\n\x1a", "binary DXF is not read, only ASCII DXF"},
-        {"hello\nworld\n", "line 1: 'hello' is not a group code"},
-        {"  0\nSECTION\n  2\n", "line 3: group code 2 has no value"},
-        {"  1\ntext\n  0\nEOF\n", "line 2: it does not begin with a SECTION"},
-        {"  0\nSECTION\n  0\nENDSEC\n", "it ends without an EOF group"},
-        {"  0\nSECTION\n  0\nEOF\nmore\n", "line 5: text after the EOF group"},
-    };
-    for (const auto& each : cases) {
-        const QString file = writeFile(QStringLiteral("bad.dxf"), each.content);
-        try {
-            OdDbDatabase::readFile(od(file));
-            ADD_FAILURE() << "read: " << each.reason;
-        } catch (const OdError& error) {
-            EXPECT_EQ(qt(error.description()),
-                      file + QStringLiteral(" is not a readable DXF drawing: ") + each.reason);
-        }
+    const char* name;
+    QByteArray content;
+    const char* reason;
+};
+
+// How failures and CTest name the case.
+void PrintTo(const NotADrawing& each, std::ostream* out)
+{
+    *out << each.name;
+}
+
+class DxfDrawingRefused : public DxfDrawing, public ::testing::WithParamInterface<NotADrawing>
+{};
+
+TEST_P(DxfDrawingRefused, WithTheReason)
+{
+    const QString file = writeFile(QStringLiteral("bad.dxf"), GetParam().content);
+    try {
+        OdDbDatabase::readFile(od(file));
+        ADD_FAILURE() << "read: " << GetParam().reason;
+    } catch (const OdError& error) {
+        EXPECT_EQ(qt(error.description()),
+                  file + QStringLiteral(" is not a readable DXF drawing: ") + GetParam().reason);
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    WhatIsNotAnAsciiDrawing, DxfDrawingRefused,
+    ::testing::Values(
+        NotADrawing{"Empty", "", "the file is empty"},
+        NotADrawing{"BinaryDxf", "AutoCAD Binary DXF\r\n\x1a",
+                    "binary DXF is not read, only ASCII DXF"},
+        NotADrawing{"NotAGroupCode", "hello\nworld\n", "line 1: 'hello' is not a group code"},
+        NotADrawing{"GroupCodeWithoutValue", "  0\nSECTION\n  2\n",
+                    "line 3: group code 2 has no value"},
+        NotADrawing{"NoSectionFirst", "  1\ntext\n  0\nEOF\n",
+                    "line 2: it does not begin with a SECTION"},
+        NotADrawing{"NoEof", "  0\nSECTION\n  0\nENDSEC\n", "it ends without an EOF group"},
+        NotADrawing{"TextAfterEof", "  0\nSECTION\n  0\nEOF\nmore\n",
+                    "line 5: text after the EOF group"}));
 } // namespace

@@ -1,6 +1,7 @@
 // The dynamic linker with the test modules: finding, loading and starting a module, refusing
 // what is not a module of this platform, and unloading it so that nothing of it stays.
 #include "EventRecorder.h"
+#include "TestPrinters.h"
 #include "TestStrings.h"
 
 #include <QDir>

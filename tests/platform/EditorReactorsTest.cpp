@@ -1,6 +1,7 @@
 // The editor's safety net for reactors that go away while attached or during a notification
 // round.
 #include "EventRecorder.h"
+#include "TestPrinters.h"
 
 #include <gtest/gtest.h>
 

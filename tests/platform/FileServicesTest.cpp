@@ -1,5 +1,6 @@
 // The platform's file creation with the Windows access, share and creation-disposition values.
 #include "EventRecorder.h"
+#include "TestPrinters.h"
 #include "TestStrings.h"
 
 #include <QFile>

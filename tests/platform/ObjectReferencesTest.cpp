@@ -1,9 +1,8 @@
-// Reference rules of platform objects: smart pointers count, the last release deletes a heap
-// object, and an object owned by value never goes through a release.
+// Reference rules of platform objects: smart pointers count, and the last release deletes a heap
+// object.
 #include <gtest/gtest.h>
 
 #include <OdRxObjectImpl.h>
-#include <OdStaticRxObject.h>
 
 namespace {
 class Tracked : public OdRxObject
@@ -40,21 +39,5 @@ TEST(ObjectReferences, SmartPointersHoldOneReferenceEachAndTheLastReleaseDeletes
 
     EXPECT_FALSE(destroyed);
     first = OdSmartPtr<Tracked>();
-    EXPECT_TRUE(destroyed);
-}
-
-TEST(ObjectReferences, ObjectOwnedByValueIgnoresReferences)
-{
-    bool destroyed = false;
-    {
-        OdStaticRxObject<Tracked> owned(&destroyed);
-        OdRxObjectPtr first(&owned);
-        OdRxObjectPtr second = first;
-        EXPECT_EQ(owned.numRefs(), 1);
-        first.release();
-        second.release();
-        owned.release();
-        EXPECT_FALSE(destroyed);
-    }
     EXPECT_TRUE(destroyed);
 }

@@ -1,4 +1,5 @@
 // The external-reference graph, built across files from the block records that are references.
+#include "TestPrinters.h"
 #include "TestStrings.h"
 
 #include <QDir>

@@ -1,6 +1,8 @@
 // The automation servers that the version discovery tries, one per viewer version: on Windows
 // the identifier is a COM ProgID, elsewhere it names a session-bus service. Each must be valid
 // where it is used, and no two versions may share one.
+#include "TestPrinters.h"
+
 #include <QRegularExpression>
 #include <QString>
 

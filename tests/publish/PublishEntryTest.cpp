@@ -2,6 +2,7 @@
 // it: put after "RSMI_10" with its separator when the main window is created, and taken out
 // with the separator when the window goes, as often as that happens.
 #include "HostProcess.h"
+#include "TestPrinters.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -73,45 +74,63 @@ TEST(PublishEntry, StandsAfterRsmi10WithItsSeparatorWhileTheMainWindowExists)
     EXPECT_EQ(entryIds(applicationMenuOf(uis[3])), before);
 }
 
-TEST(PublishEntry, WithoutRsmi10ItFollowsTheLastEntryAndWithoutEntriesItIsPlacedNowhere)
+// Without the anchor "RSMI_10" the entry follows the last entry, and without entries it is placed
+// nowhere; the destroy path takes out the menu's first separator and the entry.
+struct ApplicationMenuCase
 {
+    const char* name;
+    QStringList entries, expected, after; // empty `after`: the entries as they were
+};
+
+// How failures and CTest name the case.
+void PrintTo(const ApplicationMenuCase& each, std::ostream* out)
+{
+    *out << each.name;
+}
+
+class PublishEntryPlace : public ::testing::TestWithParam<ApplicationMenuCase>
+{};
+
+TEST_P(PublishEntryPlace, InAnApplicationMenuOfTheProfile)
+{
+    const ApplicationMenuCase& each = GetParam();
     HostProcess host;
     const QString profile = host.home() + "/profile.json";
-    const struct
-    {
-        QStringList entries, expected, after; // empty `after`: the entries as they were
-    } cases[] = {
-        {{"RSMI_1", "rsmi_10", "RSMI_20"},
-         {"RSMI_1", "rsmi_10", kSeparator, kEntry, "RSMI_20"},
-         {}},
-        {{"RSMI_1", "RSMI_2"}, {"RSMI_1", "RSMI_2", kSeparator, kEntry}, {}},
-        {{}, {}, {}},
-        // Taken out is the first separator of the menu, even one that is not the module's own.
-        {{"RSMI_1", kSeparator, "RSMI_10", "RSMI_20"},
-         {"RSMI_1", kSeparator, "RSMI_10", kSeparator, kEntry, "RSMI_20"},
-         {"RSMI_1", "RSMI_10", kSeparator, "RSMI_20"}},
-    };
-    for (const auto& each : cases) {
-        // A profile of one main group whose application menu holds the entries.
-        QJsonArray items;
-        for (const QString& id : each.entries)
-            items.append(QJsonObject{{"id", id}});
-        const QJsonObject group{
-            {"id", "MAIN"},
-            {"main", true},
-            {"applicationMenu", QJsonArray{QJsonObject{{"id", "RSM"}, {"items", items}}}}};
-        QFile file(profile);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(QJsonDocument(QJsonObject{{"groups", QJsonArray{group}}}).toJson());
-        file.close();
-        const HostResult result = host.runScript("mainframe create; ui; mainframe destroy; ui",
-                                                 {"--ui-profile", profile});
-        ASSERT_EQ(result.exitCode, 0) << result.standardError.toStdString();
-        const auto uis = result.events.named("ui");
-        ASSERT_EQ(uis.size(), 2);
-        EXPECT_EQ(entryIds(applicationMenuOf(uis[0])), each.expected);
-        EXPECT_EQ(entryIds(applicationMenuOf(uis[1])),
-                  each.after.isEmpty() ? each.entries : each.after);
-    }
+    // A profile of one main group whose application menu holds the entries.
+    QJsonArray items;
+    for (const QString& id : each.entries)
+        items.append(QJsonObject{{"id", id}});
+    const QJsonObject group{
+        {"id", "MAIN"},
+        {"main", true},
+        {"applicationMenu", QJsonArray{QJsonObject{{"id", "RSM"}, {"items", items}}}}};
+    QFile file(profile);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(QJsonDocument(QJsonObject{{"groups", QJsonArray{group}}}).toJson());
+    file.close();
+    const HostResult result =
+        host.runScript("mainframe create; ui; mainframe destroy; ui", {"--ui-profile", profile});
+    ASSERT_EQ(result.exitCode, 0) << result.standardError.toStdString();
+    const auto uis = result.events.named("ui");
+    ASSERT_EQ(uis.size(), 2);
+    EXPECT_EQ(entryIds(applicationMenuOf(uis[0])), each.expected);
+    EXPECT_EQ(entryIds(applicationMenuOf(uis[1])),
+              each.after.isEmpty() ? each.entries : each.after);
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Menus, PublishEntryPlace,
+    ::testing::Values(
+        ApplicationMenuCase{"AnchorOnlyInLowerCase",
+                            {"RSMI_1", "rsmi_10", "RSMI_20"},
+                            {"RSMI_1", "rsmi_10", kSeparator, kEntry, "RSMI_20"},
+                            {}},
+        ApplicationMenuCase{
+            "NoAnchor", {"RSMI_1", "RSMI_2"}, {"RSMI_1", "RSMI_2", kSeparator, kEntry}, {}},
+        ApplicationMenuCase{"NoEntries", {}, {}, {}},
+        // Taken out is the first separator of the menu, even one that is not the module's own.
+        ApplicationMenuCase{"ASeparatorBeforeTheAnchor",
+                            {"RSMI_1", kSeparator, "RSMI_10", "RSMI_20"},
+                            {"RSMI_1", kSeparator, "RSMI_10", kSeparator, kEntry, "RSMI_20"},
+                            {"RSMI_1", "RSMI_10", kSeparator, "RSMI_20"}}));
 } // namespace

@@ -4,6 +4,7 @@
 // the copies as files in the test's home.
 #include "HostProcess.h"
 #include "PrivateSessionBus.h"
+#include "TestPrinters.h"
 
 #include <QDir>
 #include <QFile>
@@ -144,52 +145,70 @@ protected:
 
 QTemporaryDir* PublishToViewcast::s_drawings = nullptr;
 
-TEST_F(PublishToViewcast, NewestCreatableVersionUpToTheCurrentOneOpensTheCopyOrTheTaskPaneTells)
+struct ViewerVersionCase
 {
-    const QString opened = "opened " + scratch("plan.dxf") + " plan.vcst";
-    const struct
-    {
-        QList<int> installed;
-        std::optional<QString> current; // the installer's value when not given
-        QString call;                   // empty: the task pane's notice
-    } cases[] = {
-        {{10, 11},
-         "VcModelViewer.VcstViewer.10",
-         "VcModelViewer.VcstViewer.10 IDispatch::Invoke(53) " + opened},
-        {{9, 10},
-         "VcModelViewer.VcstViewer.12",
-         "VcModelViewer.VcstViewer.10 IDispatch::Invoke(53) " + opened},
-        {{10, 11},
-         "VcModelViewer.VcstViewer.12",
-         "VcModelViewer.VcstViewer.11 IDispatch::Invoke(53) " + opened},
-        {{9}, {}, "VcModelViewer.VcstViewer.9 IVcModelViewApp::OpenDocument " + opened},
-        {{9}, QString(), ""},
-        {{9}, "VcModelViewer", ""},
-        {{9}, "VcModelViewer.VcstViewer.abc", ""},
-        {{9}, "VcModelViewer.VcstViewer.8", ""},
-    };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.current.value_or("installer's").toStdString());
-        installViewer(each.installed);
-        QSettings registry(registryFile(), QSettings::IniFormat);
-        if (each.current && each.current->isEmpty())
-            registry.remove(kCurrentVersion);
-        else if (each.current)
-            registry.setValue(kCurrentVersion, *each.current);
-        registry.sync();
-        QDir(scratch()).removeRecursively();
+    const char* name;
+    QList<int> installed;
+    std::optional<QString> current; // the installer's value when not given
+    QString call;                   // the server and its call; empty: the task pane's notice
+};
 
-        const HostResult result = publish({drawing("site/plan.dxf")});
-        if (each.call.isEmpty()) {
-            EXPECT_TRUE(viewerCalls(result).isEmpty());
-            EXPECT_EQ(taskPaneAndErrors(result), QStringList{"showViewcastMeassage"});
-            EXPECT_FALSE(QFileInfo::exists(scratch())) << "nothing is saved without a viewer";
-        } else {
-            EXPECT_EQ(viewerCalls(result), QStringList{each.call});
-            EXPECT_TRUE(taskPaneAndErrors(result).isEmpty());
-        }
+// How failures and CTest name the case.
+void PrintTo(const ViewerVersionCase& each, std::ostream* out)
+{
+    *out << each.name;
+}
+
+class PublishToViewcastVersion : public PublishToViewcast,
+                                 public ::testing::WithParamInterface<ViewerVersionCase>
+{};
+
+TEST_P(PublishToViewcastVersion, NewestCreatableUpToTheCurrentOneOpensTheCopyOrTheTaskPaneTells)
+{
+    const ViewerVersionCase& each = GetParam();
+    installViewer(each.installed);
+    QSettings registry(registryFile(), QSettings::IniFormat);
+    if (each.current && each.current->isEmpty())
+        registry.remove(kCurrentVersion);
+    else if (each.current)
+        registry.setValue(kCurrentVersion, *each.current);
+    registry.sync();
+
+    const HostResult result = publish({drawing("site/plan.dxf")});
+    if (each.call.isEmpty()) {
+        EXPECT_TRUE(viewerCalls(result).isEmpty());
+        EXPECT_EQ(taskPaneAndErrors(result), QStringList{"showViewcastMeassage"});
+        EXPECT_FALSE(QFileInfo::exists(scratch())) << "nothing is saved without a viewer";
+    } else {
+        EXPECT_EQ(viewerCalls(result),
+                  QStringList{each.call + " opened " + scratch("plan.dxf") + " plan.vcst"});
+        EXPECT_TRUE(taskPaneAndErrors(result).isEmpty());
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Installations, PublishToViewcastVersion,
+    ::testing::Values(
+        ViewerVersionCase{"NotNewerThanTheCurrent",
+                          {10, 11},
+                          "VcModelViewer.VcstViewer.10",
+                          "VcModelViewer.VcstViewer.10 IDispatch::Invoke(53)"},
+        ViewerVersionCase{"NewestOfNineAndTen",
+                          {9, 10},
+                          "VcModelViewer.VcstViewer.12",
+                          "VcModelViewer.VcstViewer.10 IDispatch::Invoke(53)"},
+        ViewerVersionCase{"NewestOfTenAndEleven",
+                          {10, 11},
+                          "VcModelViewer.VcstViewer.12",
+                          "VcModelViewer.VcstViewer.11 IDispatch::Invoke(53)"},
+        ViewerVersionCase{"AsTheInstallerLeftIt",
+                          {9},
+                          {},
+                          "VcModelViewer.VcstViewer.9 IVcModelViewApp::OpenDocument"},
+        ViewerVersionCase{"NoCurrentVersion", {9}, QString(), ""},
+        ViewerVersionCase{"CurrentWithoutVersion", {9}, "VcModelViewer", ""},
+        ViewerVersionCase{"CurrentNotANumber", {9}, "VcModelViewer.VcstViewer.abc", ""},
+        ViewerVersionCase{"CurrentBelowTheInstalled", {9}, "VcModelViewer.VcstViewer.8", ""}));
 
 // Servers that take their bus names and never answer: each call gives up after its bounded wait,
 // and the user gets the notice, as when no viewer is installed (with D-Bus's own 25 s per call

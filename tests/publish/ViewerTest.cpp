@@ -2,6 +2,7 @@
 // and it goes when its bus goes.
 #include "HostProcess.h"
 #include "PrivateSessionBus.h"
+#include "TestPrinters.h"
 
 #include <QDeadlineTimer>
 #include <QFile>

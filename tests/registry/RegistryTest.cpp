@@ -1,6 +1,7 @@
 // The registry seam: values written into the stand-in file under a key path are what a module
 // reads back from that key, the way the Windows registry would give them.
 #include "IsolatedHome.h"
+#include "TestPrinters.h"
 
 #include <QFile>
 #include <QSettings>
@@ -13,10 +14,17 @@
 
 struct KeyPathCase
 {
+    const char* name;
     const char* keyPath;
     const char* nativePath;
     const char* standInGroup;
 };
+
+// How failures and CTest name the case.
+void PrintTo(const KeyPathCase& each, std::ostream* out)
+{
+    *out << each.name;
+}
 
 class RegistryKeyPath : public testing::TestWithParam<KeyPathCase>
 {};
@@ -34,13 +42,16 @@ TEST_P(RegistryKeyPath, NamesTheSameKeyOnWindowsAndInTheStandIn)
 
 INSTANTIATE_TEST_SUITE_P(
     Keys, RegistryKeyPath,
-    testing::Values(KeyPathCase{"HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\BfxConnectors\\",
+    testing::Values(KeyPathCase{"TrailingSeparator",
+                                "HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\BfxConnectors\\",
                                 "HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\BfxConnectors",
                                 "HKEY_LOCAL_MACHINE/SOFTWARE/Corvane/BfxConnectors"},
-                    KeyPathCase{"HKEY_CLASSES_ROOT\\VcModelViewer.VcstViewer\\CurVer",
+                    KeyPathCase{"DotsInAPart",
+                                "HKEY_CLASSES_ROOT\\VcModelViewer.VcstViewer\\CurVer",
                                 "HKEY_CLASSES_ROOT\\VcModelViewer.VcstViewer\\CurVer",
                                 "HKEY_CLASSES_ROOT/VcModelViewer.VcstViewer/CurVer"},
-                    KeyPathCase{"HKEY_LOCAL_MACHINE/SOFTWARE//Corvane\\\\BfxConnectors/",
+                    KeyPathCase{"MixedAndDoubledSeparators",
+                                "HKEY_LOCAL_MACHINE/SOFTWARE//Corvane\\\\BfxConnectors/",
                                 "HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\BfxConnectors",
                                 "HKEY_LOCAL_MACHINE/SOFTWARE/Corvane/BfxConnectors"}));
 

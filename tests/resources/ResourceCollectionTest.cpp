@@ -2,6 +2,7 @@
 // while the module is loaded, and the task pane's style sheet.
 #include "IsolatedHome.h"
 #include "LoadedModule.h"
+#include "TestPrinters.h"
 
 #include <QDirIterator>
 #include <QFile>

@@ -1,6 +1,7 @@
 // The "Export Table" entry of the application menu, put in and taken out through the module's
 // exported functions.
 #include "RibbonHost.h"
+#include "TestPrinters.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,7 @@
 // The exported wrapper class as a sibling that links the module calls it, for a row other than
 // the Add-Ins row.
 #include "RibbonHost.h"
+#include "TestPrinters.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,6 @@
 // The exported ribbon functions as a sibling calls them, on the host's default profile.
 #include "RibbonHost.h"
+#include "TestPrinters.h"
 
 #include <gtest/gtest.h>
 

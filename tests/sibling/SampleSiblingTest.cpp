@@ -1,6 +1,7 @@
 // The sample sibling module, built against the installed ExtCommands package alone, loaded
 // into quillon-host from its own build folder and driven from the host's command line.
 #include "HostProcess.h"
+#include "TestPrinters.h"
 
 #include <QFile>
 #include <QJsonArray>

@@ -1,12 +1,14 @@
 #pragma once
 
 // How GoogleTest prints the project's string types in failure messages: as text, not bytes.
-// Every test source sees these first (ec_add_gtest includes this header), so that all of a
-// program's sources print a type the same way.
+// Every test source that compares these types includes this header: GoogleTest makes one printer
+// per type for the whole program, so a source without it would print them another way, and
+// which of the two a failure shows would be up to the linker.
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
+#include <QVariant>
 
 #include <OdString.h>
 
@@ -25,4 +27,10 @@ inline void PrintTo(const OdString& text, std::ostream* out)
 inline void PrintTo(const QJsonObject& object, std::ostream* out)
 {
     *out << QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString();
+}
+
+inline void PrintTo(const QVariant& value, std::ostream* out)
+{
+    *out << value.typeName() << ' ';
+    PrintTo(value.toString(), out);
 }

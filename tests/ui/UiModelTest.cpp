@@ -1,4 +1,6 @@
 // The host's user-interface model: list semantics, commands and the JSON profile.
+#include "TestPrinters.h"
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
