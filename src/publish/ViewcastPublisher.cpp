@@ -25,16 +25,6 @@ QString text(const char* latin1)
     return QString::fromLatin1(latin1);
 }
 
-QString toQt(const OdString& value)
-{
-    return QString::fromStdWString(value.wide());
-}
-
-OdString toOd(const QString& value)
-{
-    return OdString(value.toStdWString());
-}
-
 // The format version code the host has always written its drawings with.
 constexpr int kDrawingVersionCode = 27;
 constexpr int kDxfPrecision = 16;
@@ -53,7 +43,7 @@ int ViewcastPublisher::publish(OdRxObject* commandDatabase)
     }
     const QString folder = scratchFolder();
     const OdDbDatabasePtr database = OdDbDatabase::cast(commandDatabase);
-    const QFileInfo drawing(database ? toQt(database->getFilename()) : QString());
+    const QFileInfo drawing(database ? toQString(database->getFilename()) : QString());
     const QString copyPath = folder + QLatin1Char('/') + drawing.fileName();
     if (!saveCopy(database.get(), copyPath)) {
         showError();
@@ -99,7 +89,7 @@ bool ViewcastPublisher::saveCopy(OdDbDatabase* database, const QString& path)
         return false;
     try {
         OdStreamBufPtr stream = odSystemServices()->createFile(
-            toOd(path), Oda::kFileWrite, Oda::kShareDenyNo, Oda::kCreateAlways);
+            toOdString(path), Oda::kFileWrite, Oda::kShareDenyNo, Oda::kCreateAlways);
         database->writeFile(stream.get(), OdDb::kDwg,
                             static_cast<OdDb::DwgVersion>(kDrawingVersionCode), true,
                             kDxfPrecision);
