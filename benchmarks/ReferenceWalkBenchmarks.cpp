@@ -57,8 +57,7 @@ void ReferenceWalk(benchmark::State& state)
     const int referenced =
         writeTree(folder.path(), static_cast<int>(state.range(0)), static_cast<int>(state.range(1)),
                   static_cast<int>(state.range(2)));
-    const OdDbDatabasePtr root =
-        OdDbDatabase::readFile(OdString(folder.filePath("0-0.dxf").toStdWString()));
+    const OdDbDatabasePtr root = OdDbDatabase::readFile(toOdString(folder.filePath("0-0.dxf")));
     for (auto _ : state) {
         OdDbXrefGraph graph;
         OdDbXrefGraph::getFrom(root.get(), graph);

@@ -73,7 +73,7 @@ QString plainMText(QString text)
 
 DrawingSceneBuilder::DrawingSceneBuilder(const OdDbDatabase& database)
 {
-    m_main.folder = QFileInfo(QString::fromStdWString(database.getFilename().wide())).absoluteDir();
+    m_main.folder = QFileInfo(toQString(database.getFilename())).absoluteDir();
     m_main.readable = true;
     m_result = std::make_shared<DrawingScene>();
     parse(database.groups(), m_main, m_result->m_undrawn, &m_result->m_drawnEntities);
@@ -278,8 +278,7 @@ const DrawingSceneBuilder::Drawing* DrawingSceneBuilder::read(const QString& abs
         return known->second.get();
     std::unique_ptr<Drawing> drawing;
     try {
-        const OdDbDatabasePtr database =
-            OdDbDatabase::readFile(OdString(absolutePath.toStdWString()));
+        const OdDbDatabasePtr database = OdDbDatabase::readFile(toOdString(absolutePath));
         drawing = std::make_unique<Drawing>();
         drawing->folder = QFileInfo(absolutePath).absoluteDir();
         drawing->readable = true;

@@ -54,8 +54,19 @@ QString helpTextOf(const QCommandLineParser& parser)
     return parser.helpText();
 }
 
+// The product version as --product-version writes it: A.B.C.D.
+QString versionText(const int (&version)[4])
+{
+    QStringList parts;
+    for (int part : version)
+        parts << QString::number(part);
+    return parts.join(QLatin1Char('.'));
+}
+
 void defineOptions(QCommandLineParser& parser)
 {
+    // The defaults shown in the help are those of options given nothing.
+    const HostOptions defaults;
     parser.setApplicationDescription(
         QStringLiteral("The reference Quillon host: loads modules, runs a script of host actions "
                        "and command lines, and prints every observable effect as an event."));
@@ -74,12 +85,12 @@ void defineOptions(QCommandLineParser& parser)
         {QStringLiteral("language"),
          QStringLiteral(
              "The host's user-interface language id (0 System, 1 German, 2 English, ...)."),
-         QStringLiteral("ID"), QStringLiteral("2")},
+         QStringLiteral("ID"), QString::number(defaults.languageId)},
         {QStringLiteral("locale"),
          QStringLiteral("The operating system's locale, as Qt names it (de_DE, zh_TW, C)."),
          QStringLiteral("NAME")},
         {QStringLiteral("product-version"), QStringLiteral("The host's product version."),
-         QStringLiteral("A.B.C.D"), QStringLiteral("2026.0.1.4120")},
+         QStringLiteral("A.B.C.D"), versionText(defaults.productVersion)},
         {QStringLiteral("ui-profile"),
          QStringLiteral("Build the user interface from this UI profile (JSON) instead of the "
                         "built-in one."),

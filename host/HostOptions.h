@@ -17,6 +17,8 @@ struct HostOptions
     QString uiProfile;
     // The file that stands in for the system registry (default: in the user's configuration).
     QString registryFile;
+    // The version that the host reports to modules (release, service release, service pack,
+    // build): its own unless --product-version says otherwise.
     int productVersion[4] = {2026, 0, 1, 4120};
     bool json = false;
     // Play the demo session even when a display would allow the window.

@@ -13,8 +13,8 @@
 #include <QSettings>
 
 #include <CFxCommandContext.h>
+#include <CFxHostServices.h>
 #include <CFxRegistry.h>
-#include <CFxSystemServices.h>
 #include <CFxUI.h>
 #include <CFxUIJsonReader.h>
 #include <CFxUIJsonWriter.h>
@@ -27,18 +27,6 @@
 
 #include <cstdio>
 #include <utility>
-
-namespace {
-OdString toOd(const QString& text)
-{
-    return OdString(text.toStdWString());
-}
-
-QString toQt(const OdString& text)
-{
-    return QString::fromStdWString(text.wide());
-}
-} // namespace
 
 HostSession::HostSession(const HostOptions& options) : m_options(options) {}
 
@@ -54,7 +42,7 @@ QString HostSession::programFolder()
 
 void HostSession::start()
 {
-    CFxSystemServices* services = GetFxSystemServices();
+    CFxHostServices* services = GetFxHostServices();
     const int* version = m_options.productVersion;
     services->SetProductVersion(version[0], version[1], version[2], version[3]);
     services->SetCurrentLanguageId(m_options.languageId);
@@ -63,9 +51,9 @@ void HostSession::start()
                                      : QFileInfo(m_options.companionPath).absoluteFilePath());
     std::vector<OdString> searchPath;
     for (const QString& folder : m_options.modulePath)
-        searchPath.push_back(toOd(QFileInfo(folder).absoluteFilePath()));
+        searchPath.push_back(toOdString(QFileInfo(folder).absoluteFilePath()));
     if (searchPath.empty())
-        searchPath.push_back(toOd(programFolder()));
+        searchPath.push_back(toOdString(programFolder()));
     odrxDynamicLinker()->setSearchPath(searchPath);
     services->SetInstallationId(installationId());
     if (!m_options.registryFile.isEmpty())
@@ -91,9 +79,9 @@ void HostSession::loadUiProfile()
         CFxUIJsonReader::readFile(
             m_options.uiProfile.isEmpty() ? defaultUiProfile() : m_options.uiProfile, *ui);
     } catch (const OdError& error) {
-        throw HostError(QStringLiteral("UI profile %1").arg(toQt(error.description())));
+        throw HostError(QStringLiteral("UI profile %1").arg(toQString(error.description())));
     }
-    GetFxSystemServices()->SetUI(std::move(ui));
+    GetFxHostServices()->SetUI(std::move(ui));
 }
 
 QUuid HostSession::installationId()
@@ -149,7 +137,7 @@ void HostSession::createMainFrame()
         if (CFxUI* ui = GetFxSystemServices()->GetUI())
             ui->SetUpdateHandler([this] { scheduleRefresh(); });
     }
-    GetFxSystemServices()->MainFrameCreated(m_mainFrame.get());
+    GetFxHostServices()->MainFrameCreated(m_mainFrame.get());
     refreshWindow();
 }
 
@@ -157,7 +145,7 @@ void HostSession::destroyMainFrame()
 {
     if (!m_mainFrame)
         throw HostError(QStringLiteral("there is no main window to destroy"));
-    GetFxSystemServices()->MainFrameDestroyed(m_mainFrame.get());
+    GetFxHostServices()->MainFrameDestroyed(m_mainFrame.get());
     if (CFxUI* ui = GetFxSystemServices()->GetUI())
         ui->SetUpdateHandler({});
     m_mainFrame.reset();
@@ -197,24 +185,24 @@ QStringList HostSession::completions()
 {
     QStringList names = ScriptRunner::statementKeywords();
     for (const OdEdCommand* command : odedRegCmds()->commands())
-        names << toQt(command->localName()) << toQt(command->globalName());
+        names << toQString(command->localName()) << toQString(command->globalName());
     return names;
 }
 
 void HostSession::loadModule(const QString& name)
 {
     try {
-        odrxDynamicLinker()->loadModule(toOd(name), false);
+        odrxDynamicLinker()->loadModule(toOdString(name), false);
     } catch (const OdError& error) {
-        throw HostError(toQt(error.description()));
+        throw HostError(toQString(error.description()));
     }
 }
 
 void HostSession::unloadModule(const QString& name)
 {
-    if (odrxDynamicLinker()->getModule(toOd(name)).isNull())
+    if (odrxDynamicLinker()->getModule(toOdString(name)).isNull())
         throw HostError(QStringLiteral("module %1 is not loaded").arg(name));
-    odrxDynamicLinker()->unloadModule(toOd(name));
+    odrxDynamicLinker()->unloadModule(toOdString(name));
 }
 
 void HostSession::openDocument(const QString& path)
@@ -224,10 +212,10 @@ void HostSession::openDocument(const QString& path)
         throw HostError(QStringLiteral("cannot open %1: no such file").arg(path));
     OdDbDatabasePtr database;
     try {
-        database = OdDbDatabase::readFile(toOd(file.absoluteFilePath()));
+        database = OdDbDatabase::readFile(toOdString(file.absoluteFilePath()));
     } catch (const OdError& error) {
         std::fprintf(stderr, "quillon-host: warning: %s; it opens as a drawing never saved\n",
-                     qUtf8Printable(toQt(error.description())));
+                     qUtf8Printable(toQString(error.description())));
     }
     GetFxSystemServices()->GetDocumentManager()->OpenDocument(file.absoluteFilePath(),
                                                               std::move(database));
@@ -252,9 +240,9 @@ void HostSession::runCommandLine(const QString& name, const QStringList& answers
                                                 active ? active->GetFxDatabase() : nullptr);
     bool found = false;
     try {
-        found = odedRegCmds()->executeCommand(toOd(name), &context);
+        found = odedRegCmds()->executeCommand(toOdString(name), &context);
     } catch (const OdError& error) {
-        throw HostError(QStringLiteral("command %1: %2").arg(name, toQt(error.description())));
+        throw HostError(QStringLiteral("command %1: %2").arg(name, toQString(error.description())));
     }
     if (!found) {
         OdEventLog::report(QStringLiteral("unknown-command"), {{QStringLiteral("name"), name}});
@@ -281,7 +269,7 @@ void HostSession::reportCommands()
 {
     QJsonArray names;
     for (const OdEdCommand* command : odedRegCmds()->commands())
-        names.append(toQt(command->localName()));
+        names.append(toQString(command->localName()));
     OdEventLog::report(QStringLiteral("commands"), {{QStringLiteral("names"), names}});
 }
 

@@ -10,7 +10,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 
-#include <CFxSystemServices.h>
+#include <CFxHostServices.h>
 #include <CFxTextFile.h>
 #include <OdEventLog.h>
 
@@ -54,7 +54,7 @@ bool runWindow(HostSession& session, ScriptRunner& runner, EventPrinter& printer
 {
     session.setWindowHandlers([&runner](const QString& line) { runner.run(line, QDir::current()); },
                               [] { QCoreApplication::quit(); });
-    GetFxSystemServices()->SetMessageBoxHandler(
+    GetFxHostServices()->SetMessageBoxHandler(
         [&session](const QString& text, const QString& caption, int) {
             QMessageBox::information(session.mainFrame(), caption, text);
             return 1;
@@ -66,7 +66,7 @@ bool runWindow(HostSession& session, ScriptRunner& runner, EventPrinter& printer
     });
     QApplication::exec();
     printer.setEcho({});
-    GetFxSystemServices()->SetMessageBoxHandler({});
+    GetFxHostServices()->SetMessageBoxHandler({});
     return true;
 }
 

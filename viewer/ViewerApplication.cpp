@@ -56,7 +56,7 @@ QString ViewerApplication::check(const QVariantList& arguments)
     if (!QFileInfo(path).isFile())
         return QStringLiteral("no such file: %1").arg(path);
     try {
-        OdDbDatabase::readFile(OdString(path.toStdWString()));
+        OdDbDatabase::readFile(toOdString(path));
     } catch (const OdError& error) {
         return QString::fromUtf8(error.what());
     }

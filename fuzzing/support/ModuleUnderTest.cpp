@@ -4,7 +4,7 @@
 #include <QTranslator>
 #include <QWidget>
 
-#include <CFxSystemServices.h>
+#include <CFxHostServices.h>
 #include <CFxUI.h>
 #include <CFxUIJsonReader.h>
 #include <OdRxDynamicLinker.h>
@@ -22,7 +22,7 @@ ModuleUnderTest::ModuleUnderTest() : m_mainFrame(nullptr)
 {
     auto ui = std::make_unique<CFxUI>();
     CFxUIJsonReader::readFile(QStringLiteral(EC_SOURCE_DIR "/host/profiles/default.json"), *ui);
-    GetFxSystemServices()->SetUI(std::move(ui));
+    GetFxHostServices()->SetUI(std::move(ui));
     loadModule();
     resolveEntries();
 }
@@ -33,7 +33,7 @@ ModuleUnderTest::~ModuleUnderTest()
         mainFrameDestroyed();
     emptyLoadedItems();
     dropTranslators();
-    GetFxSystemServices()->SetUI(nullptr);
+    GetFxHostServices()->SetUI(nullptr);
 }
 
 void ModuleUnderTest::loadModule()
@@ -42,8 +42,8 @@ void ModuleUnderTest::loadModule()
     if (loaded)
         return;
     const QString stage = QStringLiteral(EC_STAGE_DIR);
-    odrxDynamicLinker()->setSearchPath({OdString(stage.toStdWString())});
-    GetFxSystemServices()->SetCompanionFolder(stage);
+    odrxDynamicLinker()->setSearchPath({toOdString(stage)});
+    GetFxHostServices()->SetCompanionFolder(stage);
     odrxDynamicLinker()->loadModule(OdString(kModule), false);
     loaded = true;
 }
@@ -91,12 +91,12 @@ void ModuleUnderTest::mainFrameCreated()
     // The host tells its reactors of a second creation again, with the same window.
     if (!m_mainFrame)
         m_mainFrame = new QWidget;
-    GetFxSystemServices()->MainFrameCreated(m_mainFrame);
+    GetFxHostServices()->MainFrameCreated(m_mainFrame);
 }
 
 void ModuleUnderTest::mainFrameDestroyed()
 {
-    GetFxSystemServices()->MainFrameDestroyed(m_mainFrame);
+    GetFxHostServices()->MainFrameDestroyed(m_mainFrame);
     delete m_mainFrame;
     m_mainFrame = nullptr;
 }

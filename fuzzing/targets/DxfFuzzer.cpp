@@ -23,11 +23,6 @@
 namespace {
 constexpr int kMaxDrawings = 4;
 
-OdString od(const QString& text)
-{
-    return OdString(text.toStdWString());
-}
-
 QString saveDrawings(const QByteArray& input)
 {
     const QString folder = FuzzEnvironment::freshFolder();
@@ -58,12 +53,12 @@ void checkWrittenBack(const OdDbDatabase& database, const QString& folder)
     const QString copy = folder + QStringLiteral("/written.dxf");
     database.writeFile(
         odSystemServices()
-            ->createFile(od(copy), Oda::kFileWrite, Oda::kShareDenyNo, Oda::kCreateAlways)
+            ->createFile(toOdString(copy), Oda::kFileWrite, Oda::kShareDenyNo, Oda::kCreateAlways)
             .get(),
         OdDb::kDxf, static_cast<OdDb::DwgVersion>(27));
     OdDbDatabasePtr again;
     try {
-        again = OdDbDatabase::readFile(od(copy));
+        again = OdDbDatabase::readFile(toOdString(copy));
     } catch (const OdError& error) {
         FuzzFailure::report(QStringLiteral("a written drawing cannot be read: ") + error.what());
     }
@@ -82,8 +77,7 @@ void checkGraph(const OdDbXrefGraph& graph, OdDbDatabase* root)
     for (int i = 0; i < graph.numNodes(); ++i) {
         nodes.push_back(graph.node(i));
         const OdDbDatabase* database = graph.xrefNode(i)->database();
-        if (database &&
-            !files.insert(QString::fromStdWString(database->getFilename().wide())).second)
+        if (database && !files.insert(toQString(database->getFilename())).second)
             FuzzFailure::report(QStringLiteral("a drawing is more than one node"));
     }
     // Colours of an iterative depth-first walk: 0 not seen, 1 on the path, 2 done.
@@ -131,7 +125,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         saveDrawings(QByteArray(reinterpret_cast<const char*>(data), static_cast<int>(size)));
     OdDbDatabasePtr database;
     try {
-        database = OdDbDatabase::readFile(od(folder + QStringLiteral("/a.dxf")));
+        database = OdDbDatabase::readFile(toOdString(folder + QStringLiteral("/a.dxf")));
     } catch (const OdError&) {
         return 0;
     }

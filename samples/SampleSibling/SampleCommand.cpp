@@ -4,26 +4,16 @@
 #include <OdEdUserIO.h>
 #include <OdError.h>
 
-SampleCommand::SampleCommand(const wchar_t* localName) : m_localName(localName) {}
+SampleCommand::SampleCommand(const wchar_t* localName) : CFxNamedCommand(localName) {}
 
 const OdString SampleCommand::groupName() const
 {
     return OdString(L"SAMPLESIBLING");
 }
 
-const OdString SampleCommand::globalName() const
-{
-    return OdString(L"_") + localName();
-}
-
-const OdString SampleCommand::localName() const
-{
-    return OdString(m_localName);
-}
-
 QString SampleCommand::askString(OdEdCommandContext* context, const wchar_t* prompt)
 {
-    return QString::fromStdWString(context->userIO()->getString(OdString(prompt)).wide());
+    return toQString(context->userIO()->getString(OdString(prompt)));
 }
 
 bool SampleCommand::askInt(OdEdCommandContext* context, const wchar_t* prompt, int defaultValue,
@@ -39,6 +29,6 @@ bool SampleCommand::askInt(OdEdCommandContext* context, const wchar_t* prompt, i
 
 void SampleCommand::tell(OdEdCommandContext* context, const QString& text) const
 {
-    const QString line = QString::fromWCharArray(m_localName) + QStringLiteral(": ") + text;
-    context->userIO()->putString(OdString(line.toStdWString()));
+    const QString line = toQString(localName()) + QStringLiteral(": ") + text;
+    context->userIO()->putString(toOdString(line));
 }

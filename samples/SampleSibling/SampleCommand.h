@@ -2,18 +2,16 @@
 
 #include <QString>
 
-#include <CFxCommand.h>
+#include <CFxNamedCommand.h>
 
 // A command of the sample: its group, its names ("NAME" and "_NAME"), and the prompts and
 // messages through which it talks with the user on the command line.
-class SampleCommand : public CFxCommand
+class SampleCommand : public CFxNamedCommand
 {
 public:
     explicit SampleCommand(const wchar_t* localName);
 
     const OdString groupName() const override;
-    const OdString globalName() const override;
-    const OdString localName() const override;
 
 protected:
     // The user's answer to `prompt`; empty when the user gave none.
@@ -24,7 +22,4 @@ protected:
                        int& value);
     // Tells the user `text`, after the command's name.
     void tell(OdEdCommandContext* context, const QString& text) const;
-
-private:
-    const wchar_t* m_localName;
 };

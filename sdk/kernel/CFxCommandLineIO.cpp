@@ -14,24 +14,23 @@ OdString CFxCommandLineIO::getString(const OdString&, const OdString& defaultVal
     if (m_answers.isEmpty())
         return defaultValue;
     const QString answer = m_answers.takeFirst();
-    return answer.isEmpty() ? defaultValue : OdString(answer.toStdWString());
+    return answer.isEmpty() ? defaultValue : toOdString(answer);
 }
 
 int CFxCommandLineIO::getInt(const OdString& prompt, int defaultValue)
 {
-    const QString answer = QString::fromStdWString(getString(prompt).wide());
+    const QString answer = toQString(getString(prompt));
     if (answer.isEmpty())
         return defaultValue;
     bool ok = false;
     const int value = answer.toInt(&ok);
     if (!ok)
-        throw OdError(
-            OdString(QStringLiteral("'%1' is not a whole number").arg(answer).toStdWString()));
+        throw OdError(toOdString(QStringLiteral("'%1' is not a whole number").arg(answer)));
     return value;
 }
 
 void CFxCommandLineIO::putString(const OdString& text)
 {
     OdEventLog::report(QStringLiteral("command-output"),
-                       {{QStringLiteral("text"), QString::fromStdWString(text.wide())}});
+                       {{QStringLiteral("text"), toQString(text)}});
 }

@@ -1,21 +1,21 @@
 #include "CFxString.h"
 
-CFxString::CFxString(const wchar_t* text) : m_text(text ? text : L"") {}
+CFxString::CFxString(const wchar_t* text) : m_text(text) {}
 
-CFxString::CFxString(const char* utf8) : m_text(QString::fromUtf8(utf8).toStdWString()) {}
+CFxString::CFxString(const char* utf8) : m_text(::toOdString(QString::fromUtf8(utf8))) {}
 
-CFxString::CFxString(const QString& text) : m_text(text.toStdWString()) {}
+CFxString::CFxString(const QString& text) : m_text(::toOdString(text)) {}
 
-CFxString::CFxString(const OdString& text) : m_text(text.wide()) {}
+CFxString::CFxString(const OdString& text) : m_text(text) {}
 
 QString CFxString::toQString() const
 {
-    return QString::fromStdWString(m_text);
+    return ::toQString(m_text);
 }
 
 OdString CFxString::toOdString() const
 {
-    return OdString(m_text);
+    return m_text;
 }
 
 bool CFxString::equalNoCase(const CFxString& other) const
@@ -24,11 +24,13 @@ bool CFxString::equalNoCase(const CFxString& other) const
     // characters in place, as QString::compare with Qt::CaseInsensitive does, rather than make
     // two QStrings per comparison.
     if constexpr (sizeof(wchar_t) == sizeof(char32_t)) {
-        if (m_text.size() != other.m_text.size())
+        const std::wstring& mine = m_text.wide();
+        const std::wstring& theirs = other.m_text.wide();
+        if (mine.size() != theirs.size())
             return false;
-        for (std::size_t i = 0; i < m_text.size(); ++i) {
-            const wchar_t a = m_text[i];
-            const wchar_t b = other.m_text[i];
+        for (std::size_t i = 0; i < mine.size(); ++i) {
+            const wchar_t a = mine[i];
+            const wchar_t b = theirs[i];
             if (a != b && QChar::toCaseFolded(static_cast<uint>(a)) !=
                               QChar::toCaseFolded(static_cast<uint>(b)))
                 return false;
@@ -43,7 +45,7 @@ bool CFxString::equalNoCase(const CFxString& other) const
 std::wstring CFxString::foldedKey() const
 {
     if constexpr (sizeof(wchar_t) == sizeof(char32_t)) {
-        std::wstring folded(m_text);
+        std::wstring folded(m_text.wide());
         for (wchar_t& c : folded)
             c = static_cast<wchar_t>(QChar::toCaseFolded(static_cast<uint>(c)));
         return folded;

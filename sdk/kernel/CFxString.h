@@ -21,8 +21,8 @@ public:
     QString toQString() const;
     OdString toOdString() const;
     const wchar_t* c_str() const { return m_text.c_str(); }
-    bool isEmpty() const { return m_text.empty(); }
-    int length() const { return static_cast<int>(m_text.size()); }
+    bool isEmpty() const { return m_text.isEmpty(); }
+    int length() const { return m_text.getLength(); }
 
     // Equal without regard to letter case.
     bool equalNoCase(const CFxString& other) const;
@@ -38,5 +38,5 @@ public:
     friend bool operator!=(const CFxString& a, const CFxString& b) { return a.m_text != b.m_text; }
 
 private:
-    std::wstring m_text;
+    OdString m_text;
 };

@@ -7,64 +7,38 @@
 #include <QString>
 #include <QUuid>
 
-#include <functional>
-#include <memory>
-
 class CFxUI;
 class QWidget;
 
-// The host's services as modules reach them through GetFxSystemServices(). The host program
-// configures them (the Set... operations) before it loads any module.
+// What a module may ask of the host, through GetFxSystemServices(): only questions and the
+// message box. Setting these values up and telling reactors about the main window belong to the
+// host alone (CFxHostServices), so a module cannot reach them by mistake.
 class FX_KERNEL_EXPORT CFxSystemServices
 {
 public:
-    using MessageBoxHandler =
-        std::function<int(const QString& text, const QString& caption, int flags)>;
-
-    CFxSystemServices();
     virtual ~CFxSystemServices();
     CFxSystemServices(const CFxSystemServices&) = delete;
     CFxSystemServices& operator=(const CFxSystemServices&) = delete;
 
     // The product version's four numbers: release, service release, service pack, build.
     virtual void GetProductVersion(int& release, int& serviceRelease, int& servicePack,
-                                   int& build) const;
+                                   int& build) const = 0;
     // The user-interface language id of the host's language setting (0 means "System").
-    virtual int GetCurrentLanguageId() const;
-    virtual CFxDocumentManager* GetDocumentManager();
+    virtual int GetCurrentLanguageId() const = 0;
+    virtual CFxDocumentManager* GetDocumentManager() = 0;
     // Shows a message to the user and returns the button chosen (1 for OK).
-    virtual int FxMessageBox(const CFxString& text, const CFxString& caption, int flags);
+    virtual int FxMessageBox(const CFxString& text, const CFxString& caption, int flags) = 0;
     // The host's main window, or null while there is none.
-    virtual QWidget* GetMainFrame() const;
+    virtual QWidget* GetMainFrame() const = 0;
     // The folder where the host keeps its optional companion libraries.
-    virtual QString GetCompanionFolder() const;
+    virtual QString GetCompanionFolder() const = 0;
     // The host's user-interface model, or null while it has none.
-    virtual CFxUI* GetUI() const;
+    virtual CFxUI* GetUI() const = 0;
     // The identifier of this installation of the host (handed to the task pane).
-    virtual QUuid GetInstallationId() const;
+    virtual QUuid GetInstallationId() const = 0;
 
-    void SetProductVersion(int release, int serviceRelease, int servicePack, int build);
-    void SetCurrentLanguageId(int languageId);
-    // Without a handler a message only becomes a message-box event; with one it is also shown.
-    void SetMessageBoxHandler(MessageBoxHandler handler);
-    void SetCompanionFolder(const QString& folder);
-    void SetUI(std::unique_ptr<CFxUI> ui);
-    void SetInstallationId(const QUuid& id);
-
-    // The host's main window came into being / is about to go: every editor reactor that is a
-    // CFxEditorReactor hears of it.
-    void MainFrameCreated(QWidget* mainFrame);
-    void MainFrameDestroyed(QWidget* mainFrame);
-
-private:
-    int m_version[4] = {2026, 0, 1, 4120};
-    int m_languageId = 2;
-    CFxDocumentManager m_documents;
-    MessageBoxHandler m_messageBoxHandler;
-    QString m_companionFolder;
-    std::unique_ptr<CFxUI> m_ui;
-    QUuid m_installationId;
-    QWidget* m_mainFrame = nullptr;
+protected:
+    CFxSystemServices();
 };
 
 FX_KERNEL_EXPORT CFxSystemServices* GetFxSystemServices();

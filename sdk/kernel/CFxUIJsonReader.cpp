@@ -14,7 +14,7 @@ namespace {
 [[noreturn]] void fail(const QString& path, const QString& problem)
 {
     const QString where = path.isEmpty() ? QStringLiteral("/") : path;
-    throw OdError(OdString((where + QStringLiteral(": ") + problem).toStdWString()));
+    throw OdError(toOdString(where + QStringLiteral(": ") + problem));
 }
 
 void checkKeys(const QJsonObject& json, const QString& path, const QStringList& allowed)
@@ -141,7 +141,7 @@ void CFxUIJsonReader::readFile(const QString& path, CFxUI& ui)
     try {
         read(document.object(), ui);
     } catch (const OdError& error) {
-        fail(path, QString::fromStdWString(error.description().wide()));
+        fail(path, toQString(error.description()));
     }
 }
 

@@ -13,23 +13,13 @@
 #include <utility>
 
 namespace {
-QString toQt(const OdString& text)
-{
-    return QString::fromStdWString(text.wide());
-}
-
-OdString toOd(const QString& text)
-{
-    return OdString(text.toStdWString());
-}
-
 QByteArray readAll(OdStreamBuf& stream)
 {
     QByteArray content;
     const std::uint64_t length = stream.length();
     if (length > static_cast<std::uint64_t>(std::numeric_limits<int>::max() / 2))
-        throw OdError(
-            toOd(QStringLiteral("%1 is too large to be a drawing").arg(toQt(stream.fileName()))));
+        throw OdError(toOdString(
+            QStringLiteral("%1 is too large to be a drawing").arg(toQString(stream.fileName()))));
     content.resize(static_cast<int>(length));
     if (length > 0)
         stream.getBytes(content.data(), static_cast<std::uint32_t>(length));
@@ -54,12 +44,12 @@ private:
     void take(const OdDxfGroup& group)
     {
         if (group.code() == 2 && !m_named) {
-            name = toOd(group.text());
+            name = toOdString(group.text());
             m_named = true;
         } else if (group.code() == 70) {
             flags = group.toInt();
         } else if (group.code() == 1) {
-            pathName = toOd(group.text());
+            pathName = toOdString(group.text());
         }
     }
 
@@ -87,23 +77,23 @@ OdDbDatabase::~OdDbDatabase() = default;
 
 OdDbDatabasePtr OdDbDatabase::readFile(const OdString& path)
 {
-    const QString absolute = QFileInfo(toQt(path)).absoluteFilePath();
+    const QString absolute = QFileInfo(toQString(path)).absoluteFilePath();
     QByteArray content;
     {
         OdStreamBufPtr stream = odSystemServices()->createFile(
-            toOd(absolute), Oda::kFileRead, Oda::kShareDenyWrite, Oda::kOpenExisting);
+            toOdString(absolute), Oda::kFileRead, Oda::kShareDenyWrite, Oda::kOpenExisting);
         content = readAll(*stream);
     }
     std::vector<OdDxfGroup> groups = OdDxfReader::read(content, absolute);
-    return OdDbDatabasePtr(new OdRxObjectImpl<OdDbDatabase>(toOd(absolute), std::move(groups),
+    return OdDbDatabasePtr(new OdRxObjectImpl<OdDbDatabase>(toOdString(absolute), std::move(groups),
                                                             OdDxfReader::lineEnding(content)));
 }
 
 OdDbDatabasePtr OdDbDatabase::readReferences(const OdString& path)
 {
-    const QString absolute = QFileInfo(toQt(path)).absoluteFilePath();
+    const QString absolute = QFileInfo(toQString(path)).absoluteFilePath();
     OdStreamBufPtr stream = odSystemServices()->createFile(
-        toOd(absolute), Oda::kFileRead, Oda::kShareDenyWrite, Oda::kOpenExisting);
+        toOdString(absolute), Oda::kFileRead, Oda::kShareDenyWrite, Oda::kOpenExisting);
     OdDxfGroupStream reader(*stream, absolute);
     std::vector<OdDxfGroup> kept{{0, "SECTION"}, {2, "BLOCKS"}};
     OdDxfGroup group(0, QByteArray());
@@ -127,7 +117,7 @@ OdDbDatabasePtr OdDbDatabase::readReferences(const OdString& path)
     kept.emplace_back(0, "ENDSEC");
     kept.emplace_back(0, "EOF");
     return OdDbDatabasePtr(
-        new OdRxObjectImpl<OdDbDatabase>(toOd(absolute), std::move(kept), QByteArray("\n")));
+        new OdRxObjectImpl<OdDbDatabase>(toOdString(absolute), std::move(kept), QByteArray("\n")));
 }
 
 OdDbDatabasePtr OdDbDatabase::cast(const OdRxObject* object)
@@ -141,10 +131,11 @@ void OdDbDatabase::writeFile(OdStreamBuf* stream, OdDb::SaveType fileType, OdDb:
     if (!stream)
         throw OdError(OdString(L"no stream to write the drawing into"));
     if (fileType != OdDb::kDwg && fileType != OdDb::kDxf)
-        throw OdError(toOd(QStringLiteral("%1: file type %2 is not written, only drawings (0) "
-                                          "and ASCII DXF (1)")
-                               .arg(toQt(stream->fileName()))
-                               .arg(static_cast<int>(fileType))));
+        throw OdError(
+            toOdString(QStringLiteral("%1: file type %2 is not written, only drawings (0) "
+                                      "and ASCII DXF (1)")
+                           .arg(toQString(stream->fileName()))
+                           .arg(static_cast<int>(fileType))));
     const QByteArray content = OdDxfWriter::write(m_groups, m_lineEnding);
     stream->putBytes(content.constData(), static_cast<std::uint32_t>(content.size()));
 }

@@ -12,14 +12,9 @@
 #include <vector>
 
 namespace {
-QString toQt(const OdString& text)
-{
-    return QString::fromStdWString(text.wide());
-}
-
 QString resolvedPath(const OdString& pathName, const QString& referringFile)
 {
-    QString path = toQt(pathName);
+    QString path = toQString(pathName);
     path.replace(QLatin1Char('\\'), QLatin1Char('/'));
     if (QDir::isAbsolutePath(path))
         return QDir::cleanPath(path);
@@ -42,7 +37,7 @@ OdDbDatabasePtr readIfPossible(const QString& path)
     if (!QFileInfo(path).isFile())
         return {};
     try {
-        return OdDbDatabase::readReferences(OdString(path.toStdWString()));
+        return OdDbDatabase::readReferences(toOdString(path));
     } catch (const OdError&) {
         return {};
     }
@@ -59,7 +54,7 @@ public:
     {
         auto* node = new OdDbXrefGraphNode(OdDbObjectId(), OdDbDatabasePtr(root));
         m_graph.addNode(node);
-        const QString file = toQt(root->getFilename());
+        const QString file = toQString(root->getFilename());
         enter(node, file.isEmpty() ? QString() : drawingKey(file));
         while (!m_path.empty()) {
             Following& top = m_path.back();
@@ -94,7 +89,8 @@ private:
         const OdDbBlockTableRecordPtr record = OdDbBlockTableRecord::cast(id.openObject());
         if (!record || !record->isFromExternalReference())
             return;
-        const QString path = resolvedPath(record->pathName(), toQt(id.database()->getFilename()));
+        const QString path =
+            resolvedPath(record->pathName(), toQString(id.database()->getFilename()));
         const QString key = drawingKey(path);
         if (m_following.contains(key))
             return;

@@ -11,8 +11,8 @@ constexpr std::uint64_t kBlockSize = 64 * 1024;
 
 [[noreturn]] void fail(const QString& source, const QString& reason)
 {
-    throw OdError(OdString(
-        QStringLiteral("%1 is not a readable DXF drawing: %2").arg(source, reason).toStdWString()));
+    throw OdError(
+        toOdString(QStringLiteral("%1 is not a readable DXF drawing: %2").arg(source, reason)));
 }
 
 [[noreturn]] void failAt(const QString& source, int line, const QString& reason)

@@ -47,8 +47,8 @@ private:
 
 [[noreturn]] void fail(const QString& source, const QString& reason)
 {
-    throw OdError(OdString(
-        QStringLiteral("%1 is not a readable DXF drawing: %2").arg(source, reason).toStdWString()));
+    throw OdError(
+        toOdString(QStringLiteral("%1 is not a readable DXF drawing: %2").arg(source, reason)));
 }
 
 [[noreturn]] void failAt(const QString& source, int line, const QString& reason)

@@ -12,23 +12,18 @@
 #include <typeinfo>
 
 namespace {
-QString toQt(const OdString& text)
-{
-    return QString::fromStdWString(text.wide());
-}
-
 void reportCommandEvent(const char* event, const OdEdCommand* command,
                         const OdEventFields& extra = {})
 {
-    OdEventFields fields{{QStringLiteral("name"), toQt(command->globalName())},
-                         {QStringLiteral("local"), toQt(command->localName())}};
+    OdEventFields fields{{QStringLiteral("name"), toQString(command->globalName())},
+                         {QStringLiteral("local"), toQString(command->localName())}};
     fields += extra;
     OdEventLog::report(QString::fromLatin1(event), fields);
 }
 
 QString canonical(const OdString& path)
 {
-    return QFileInfo(toQt(path)).canonicalFilePath();
+    return QFileInfo(toQString(path)).canonicalFilePath();
 }
 
 bool sameName(const OdString& a, const OdString& b)

@@ -8,11 +8,6 @@
 #include <QFileInfo>
 
 namespace {
-OdString toOd(const QString& text)
-{
-    return OdString(text.toStdWString());
-}
-
 bool isShareMode(unsigned share)
 {
     return share == Oda::kShareDenyReadWrite || share == Oda::kShareDenyWrite ||
@@ -31,8 +26,8 @@ OdStreamBufPtr OdFileStreamBuf::open(const QString& path, unsigned access, unsig
     checkRequest(path, access, share, disposition);
     OdSmartPtr<OdFileStreamBuf> stream(new OdRxObjectImpl<OdFileStreamBuf>(path, access, share));
     if (!stream->m_file.open(openMode(access, disposition)))
-        throw OdError(
-            toOd(QStringLiteral("cannot open %1: %2").arg(path, stream->m_file.errorString())));
+        throw OdError(toOdString(
+            QStringLiteral("cannot open %1: %2").arg(path, stream->m_file.errorString())));
     OdFileShareTable::instance().add(stream->m_key, access, share);
     return OdStreamBufPtr(stream);
 }
@@ -42,26 +37,26 @@ void OdFileStreamBuf::checkRequest(const QString& path, unsigned access, unsigne
 {
     const unsigned known = Oda::kFileRead | Oda::kFileWrite;
     if (access == 0 || (access & ~known) != 0)
-        throw OdError(
-            toOd(QStringLiteral("cannot open %1: unknown access mode %2").arg(path).arg(access)));
+        throw OdError(toOdString(
+            QStringLiteral("cannot open %1: unknown access mode %2").arg(path).arg(access)));
     if (!isShareMode(share))
-        throw OdError(
-            toOd(QStringLiteral("cannot open %1: unknown share mode %2").arg(path).arg(share)));
+        throw OdError(toOdString(
+            QStringLiteral("cannot open %1: unknown share mode %2").arg(path).arg(share)));
     if (disposition < Oda::kCreateNew || disposition > Oda::kTruncateExisting)
-        throw OdError(toOd(QStringLiteral("cannot open %1: unknown creation disposition %2")
-                               .arg(path)
-                               .arg(disposition)));
+        throw OdError(toOdString(QStringLiteral("cannot open %1: unknown creation disposition %2")
+                                     .arg(path)
+                                     .arg(disposition)));
     if (createsOrEmpties(disposition) && !(access & Oda::kFileWrite))
-        throw OdError(
-            toOd(QStringLiteral("cannot open %1: creating or emptying a file needs write access")
-                     .arg(path)));
+        throw OdError(toOdString(
+            QStringLiteral("cannot open %1: creating or emptying a file needs write access")
+                .arg(path)));
     // A pipe would block the open or swallow what is written, a device would be read or
     // written as if it were a drawing: only regular files, or a name not yet taken, are files.
     const QFileInfo file(path);
     if (file.exists() && !file.isFile())
-        throw OdError(toOd(QStringLiteral("cannot open %1: not a regular file").arg(path)));
+        throw OdError(toOdString(QStringLiteral("cannot open %1: not a regular file").arg(path)));
     if (!OdFileShareTable::instance().admits(QFileInfo(path).absoluteFilePath(), access, share))
-        throw OdError(toOd(QStringLiteral("cannot open %1: the file is in use").arg(path)));
+        throw OdError(toOdString(QStringLiteral("cannot open %1: the file is in use").arg(path)));
 }
 
 QIODevice::OpenMode OdFileStreamBuf::openMode(unsigned access, unsigned disposition)
@@ -95,7 +90,7 @@ OdFileStreamBuf::~OdFileStreamBuf()
 
 OdString OdFileStreamBuf::fileName()
 {
-    return toOd(m_key);
+    return toOdString(m_key);
 }
 
 std::uint64_t OdFileStreamBuf::length()
@@ -123,5 +118,5 @@ void OdFileStreamBuf::putBytes(const void* buffer, std::uint32_t count)
 
 void OdFileStreamBuf::fail(const QString& what) const
 {
-    throw OdError(toOd(QStringLiteral("%1: %2").arg(m_key, what)));
+    throw OdError(toOdString(QStringLiteral("%1: %2").arg(m_key, what)));
 }

@@ -14,21 +14,11 @@
 #include <exception>
 
 namespace {
-QString toQt(const OdString& text)
-{
-    return QString::fromStdWString(text.wide());
-}
-
-OdString fromQt(const QString& text)
-{
-    return OdString(text.toStdWString());
-}
-
 // Module names are file names: "ExtCommands" and "ExtCommands.tx" name the same module.
 QString baseName(const OdString& name)
 {
-    QString text = QFileInfo(toQt(name)).fileName();
-    const QString suffix = toQt(OdRxDynamicLinker::moduleFileSuffix());
+    QString text = QFileInfo(toQString(name)).fileName();
+    const QString suffix = toQString(OdRxDynamicLinker::moduleFileSuffix());
     if (text.endsWith(suffix, Qt::CaseInsensitive))
         text.chop(suffix.size());
     return text;
@@ -84,17 +74,17 @@ OdRxModulePtr OdRxDynamicLinker::loadModule(const OdString& name, bool silent)
     if (!silent)
         throw OdError(error);
     reportModuleEvent("module-load-failed", baseName(name),
-                      {{QStringLiteral("reason"), toQt(error)}});
+                      {{QStringLiteral("reason"), toQString(error)}});
     return OdRxModulePtr();
 }
 
 OdString OdRxDynamicLinker::findFile(const OdString& name) const
 {
-    const QString file = baseName(name) + toQt(moduleFileSuffix());
+    const QString file = baseName(name) + toQString(moduleFileSuffix());
     for (const OdString& folder : m_searchPath) {
-        const QFileInfo candidate(QDir(toQt(folder)), file);
+        const QFileInfo candidate(QDir(toQString(folder)), file);
         if (candidate.isFile())
-            return fromQt(candidate.absoluteFilePath());
+            return toOdString(candidate.absoluteFilePath());
     }
     return OdString();
 }
@@ -106,18 +96,18 @@ OdRxModulePtr OdRxDynamicLinker::openModule(const OdString& name, OdString& erro
     if (path.isEmpty()) {
         QStringList folders;
         for (const OdString& folder : m_searchPath)
-            folders << toQt(folder);
-        error = fromQt(QStringLiteral("module %1 not found (looked for %1%2 in: %3)")
-                           .arg(moduleName, toQt(moduleFileSuffix()),
-                                folders.isEmpty() ? QStringLiteral("no folder")
-                                                  : folders.join(QStringLiteral(", "))));
+            folders << toQString(folder);
+        error = toOdString(QStringLiteral("module %1 not found (looked for %1%2 in: %3)")
+                               .arg(moduleName, toQString(moduleFileSuffix()),
+                                    folders.isEmpty() ? QStringLiteral("no folder")
+                                                      : folders.join(QStringLiteral(", "))));
         return OdRxModulePtr();
     }
     OdString loaderError;
     OdModuleHandle library = OdSharedLibrary::open(path, loaderError);
     if (!library) {
-        error = fromQt(
-            QStringLiteral("module %1 cannot be loaded: %2").arg(moduleName, toQt(loaderError)));
+        error = toOdString(QStringLiteral("module %1 cannot be loaded: %2")
+                               .arg(moduleName, toQString(loaderError)));
         return OdRxModulePtr();
     }
     auto getVersion = reinterpret_cast<OdGetAPIVersionFunction>(
@@ -126,24 +116,24 @@ OdRxModulePtr OdRxDynamicLinker::openModule(const OdString& name, OdString& erro
         OdSharedLibrary::resolve(library, "odrxCreateModuleObject"));
     if (!getVersion || !createObject) {
         OdSharedLibrary::close(library);
-        error = fromQt(QStringLiteral("%1 is not a platform module (no odrxGetAPIVersion or "
-                                      "odrxCreateModuleObject)")
-                           .arg(toQt(path)));
+        error = toOdString(QStringLiteral("%1 is not a platform module (no odrxGetAPIVersion or "
+                                          "odrxCreateModuleObject)")
+                               .arg(toQString(path)));
         return OdRxModulePtr();
     }
     int major = 0, minor = 0, fix = 0, build = 0;
     getVersion(major, minor, fix, build);
     if (major != ODRX_API_MAJOR || minor != ODRX_API_MINOR) {
         OdSharedLibrary::close(library);
-        error = fromQt(QStringLiteral("module %1 was built for platform API %2.%3.%4.%5, "
-                                      "this platform is %6.%7")
-                           .arg(moduleName)
-                           .arg(major)
-                           .arg(minor)
-                           .arg(fix)
-                           .arg(build)
-                           .arg(ODRX_API_MAJOR)
-                           .arg(ODRX_API_MINOR));
+        error = toOdString(QStringLiteral("module %1 was built for platform API %2.%3.%4.%5, "
+                                          "this platform is %6.%7")
+                               .arg(moduleName)
+                               .arg(major)
+                               .arg(minor)
+                               .arg(fix)
+                               .arg(build)
+                               .arg(ODRX_API_MAJOR)
+                               .arg(ODRX_API_MINOR));
         return OdRxModulePtr();
     }
     OdModuleHandle handle = library;
@@ -152,18 +142,18 @@ OdRxModulePtr OdRxDynamicLinker::openModule(const OdString& name, OdString& erro
         module = createObject(handle);
     } catch (const std::exception& failure) {
         OdSharedLibrary::close(library);
-        error = fromQt(QStringLiteral("module %1 could not create its module object: %2")
-                           .arg(moduleName, QString::fromLocal8Bit(failure.what())));
+        error = toOdString(QStringLiteral("module %1 could not create its module object: %2")
+                               .arg(moduleName, QString::fromLocal8Bit(failure.what())));
         return OdRxModulePtr();
     }
     if (!module) {
         OdSharedLibrary::close(library);
-        error = fromQt(QStringLiteral("module %1 created no module object").arg(moduleName));
+        error = toOdString(QStringLiteral("module %1 created no module object").arg(moduleName));
         return OdRxModulePtr();
     }
     auto entry = std::make_unique<Entry>();
     entry->name = moduleName;
-    entry->path = toQt(path);
+    entry->path = toQString(path);
     entry->module = module;
     entry->library = handle;
     m_modules.push_back(std::move(entry));
@@ -201,7 +191,7 @@ void OdRxDynamicLinker::unload(std::size_t index)
     m_modules.erase(m_modules.begin() + static_cast<std::ptrdiff_t>(index));
     OdRxModule* module = entry->module;
     module->uninitApp();
-    odedRegCmds()->removeCommandsDefinedIn(fromQt(entry->path));
+    odedRegCmds()->removeCommandsDefinedIn(toOdString(entry->path));
     OdModuleHandle library =
         entry->library ? entry->library : static_cast<OdModuleHandle>(module->sysData());
     module->deleteModule();
@@ -247,13 +237,13 @@ std::vector<OdString> OdRxDynamicLinker::loadedModules() const
 {
     std::vector<OdString> names;
     for (const auto& entry : m_modules)
-        names.push_back(fromQt(entry->name));
+        names.push_back(toOdString(entry->name));
     return names;
 }
 
 OdRxModule* OdRxDynamicLinker::moduleContaining(const void* address) const
 {
-    const QString file = toQt(OdSharedLibrary::fileContaining(address));
+    const QString file = toQString(OdSharedLibrary::fileContaining(address));
     for (const auto& entry : m_modules) {
         if (QFileInfo(entry->path).canonicalFilePath() == QFileInfo(file).canonicalFilePath())
             return entry->module;

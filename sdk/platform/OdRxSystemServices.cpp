@@ -10,7 +10,7 @@ OdStreamBufPtr OdRxSystemServices::createFile(const OdString& path, Oda::FileAcc
                                               Oda::FileShareMode share,
                                               Oda::FileCreationDisposition disposition)
 {
-    return OdFileStreamBuf::open(QString::fromStdWString(path.wide()), access, share, disposition);
+    return OdFileStreamBuf::open(toQString(path), access, share, disposition);
 }
 
 OdRxSystemServices* odSystemServices()

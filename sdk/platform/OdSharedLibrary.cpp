@@ -10,20 +10,14 @@
 #include <link.h>
 #endif
 
-namespace {
-OdString fromQt(const QString& text)
-{
-    return OdString(text.toStdWString());
-}
-} // namespace
-
 #if defined(_WIN32)
 
 OdModuleHandle OdSharedLibrary::open(const OdString& path, OdString& error)
 {
     HMODULE library = ::LoadLibraryW(path.c_str());
     if (!library)
-        error = fromQt(QStringLiteral("LoadLibrary failed with error %1").arg(::GetLastError()));
+        error =
+            toOdString(QStringLiteral("LoadLibrary failed with error %1").arg(::GetLastError()));
     return library;
 }
 
@@ -66,18 +60,11 @@ OdString OdSharedLibrary::fileContaining(const void* address)
 
 #else
 
-namespace {
-QString toQt(const OdString& text)
-{
-    return QString::fromStdWString(text.wide());
-}
-} // namespace
-
 OdModuleHandle OdSharedLibrary::open(const OdString& path, OdString& error)
 {
-    void* library = ::dlopen(toQt(path).toLocal8Bit().constData(), RTLD_NOW | RTLD_LOCAL);
+    void* library = ::dlopen(toQString(path).toLocal8Bit().constData(), RTLD_NOW | RTLD_LOCAL);
     if (!library)
-        error = fromQt(QString::fromLocal8Bit(::dlerror()));
+        error = toOdString(QString::fromLocal8Bit(::dlerror()));
     return library;
 }
 
@@ -96,12 +83,12 @@ OdString OdSharedLibrary::fileName(OdModuleHandle library)
     link_map* map = nullptr;
     if (!library || ::dlinfo(library, RTLD_DI_LINKMAP, &map) != 0 || !map)
         return OdString();
-    return fromQt(QFileInfo(QString::fromLocal8Bit(map->l_name)).absoluteFilePath());
+    return toOdString(QFileInfo(QString::fromLocal8Bit(map->l_name)).absoluteFilePath());
 }
 
 bool OdSharedLibrary::isLoaded(const OdString& path)
 {
-    void* library = ::dlopen(toQt(path).toLocal8Bit().constData(), RTLD_NOW | RTLD_NOLOAD);
+    void* library = ::dlopen(toQString(path).toLocal8Bit().constData(), RTLD_NOW | RTLD_NOLOAD);
     if (!library)
         return false;
     ::dlclose(library);
@@ -113,7 +100,7 @@ OdString OdSharedLibrary::fileContaining(const void* address)
     Dl_info info{};
     if (!::dladdr(address, &info) || !info.dli_fname)
         return OdString();
-    return fromQt(QFileInfo(QString::fromLocal8Bit(info.dli_fname)).absoluteFilePath());
+    return toOdString(QFileInfo(QString::fromLocal8Bit(info.dli_fname)).absoluteFilePath());
 }
 
 #endif

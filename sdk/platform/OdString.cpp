@@ -1,7 +1,5 @@
 #include "OdString.h"
 
-#include <QString>
-
 #include <utility>
 
 const OdString OdString::kEmpty;
@@ -18,8 +16,7 @@ int OdString::compare(const OdString& other) const
 int OdString::iCompare(const OdString& other) const
 {
     // Unicode case folding, not just ASCII: identifiers may carry any letters.
-    return QString::fromStdWString(m_text).compare(QString::fromStdWString(other.m_text),
-                                                   Qt::CaseInsensitive);
+    return toQString(*this).compare(toQString(other), Qt::CaseInsensitive);
 }
 
 OdString& OdString::operator+=(const OdString& other)

@@ -2,6 +2,8 @@
 
 #include "TD_RootExport.h"
 
+#include <QString>
+
 #include <string>
 
 // The platform's wide-character string. Comparisons by value; iCompare ignores letter case.
@@ -31,3 +33,17 @@ public:
 private:
     std::wstring m_text;
 };
+
+// The one conversion between the platform's strings and Qt's, for every library, the module and
+// the host alike. wchar_t holds UTF-32 on Linux and UTF-16 on Windows; Qt's std::wstring
+// conversions read and write whichever the compiler gives, so the text survives the round trip
+// on both. Inline, so it is compiled into each caller and exported by none.
+inline QString toQString(const OdString& text)
+{
+    return QString::fromStdWString(text.wide());
+}
+
+inline OdString toOdString(const QString& text)
+{
+    return OdString(text.toStdWString());
+}

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <CFxCommand.h>
+#include <CFxNamedCommand.h>
 
 // "PLOT_PRONTO": opens the PlotPronto project page of the maker's labs site.
-class CFxPlotPronto : public CFxCommand
+class CFxPlotPronto : public CFxNamedCommand
 {
 public:
-    const OdString globalName() const override;
-    const OdString localName() const override;
+    CFxPlotPronto() : CFxNamedCommand(L"PLOT_PRONTO") {}
+
     int runCommand(OdEdCommandContext* context) override;
 };

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <CFxCommand.h>
+#include <CFxNamedCommand.h>
 
 // "CHECKFORUPDATES": opens the product page from which the current release is downloaded, in the
 // host's language.
-class qnCheckforUpdates : public CFxCommand
+class qnCheckforUpdates : public CFxNamedCommand
 {
 public:
-    const OdString globalName() const override;
-    const OdString localName() const override;
+    qnCheckforUpdates() : CFxNamedCommand(L"CHECKFORUPDATES") {}
+
     int runCommand(OdEdCommandContext* context) override;
 };

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <CFxCommand.h>
+#include <CFxNamedCommand.h>
 
 // "RELEASENOTES": opens the release notes of the latest version, in the host's language.
-class qnQuillonReleaseNotes : public CFxCommand
+class qnQuillonReleaseNotes : public CFxNamedCommand
 {
 public:
-    const OdString globalName() const override;
-    const OdString localName() const override;
+    qnQuillonReleaseNotes() : CFxNamedCommand(L"RELEASENOTES") {}
+
     int runCommand(OdEdCommandContext* context) override;
 };

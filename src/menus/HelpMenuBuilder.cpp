@@ -38,7 +38,7 @@ CFxString statusText(const HelpEntry& entry)
 
 OdString commandName(const HelpEntry& entry)
 {
-    return OdString(QString::fromLatin1(entry.command).toStdWString());
+    return toOdString(QString::fromLatin1(entry.command));
 }
 
 void registerUnlessKnown(const HelpEntry& entry, OdEdCommand& command)

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <CFxCommand.h>
+#include <CFxNamedCommand.h>
 
 // "Community": shows the community question view.
-class CFxCommunityCommand : public CFxCommand
+class CFxCommunityCommand : public CFxNamedCommand
 {
 public:
-    const OdString globalName() const override;
-    const OdString localName() const override;
+    CFxCommunityCommand() : CFxNamedCommand(L"Community") {}
+
     int runCommand(OdEdCommandContext* context) override;
 };

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <CFxCommand.h>
+#include <CFxNamedCommand.h>
 
 // "Home": shows the host's task pane.
-class CFxHomeCommand : public CFxCommand
+class CFxHomeCommand : public CFxNamedCommand
 {
 public:
-    const OdString globalName() const override;
-    const OdString localName() const override;
+    CFxHomeCommand() : CFxNamedCommand(L"Home") {}
+
     int runCommand(OdEdCommandContext* context) override;
 };

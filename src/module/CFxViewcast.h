@@ -1,12 +1,12 @@
 #pragma once
 
-#include <CFxCommand.h>
+#include <CFxNamedCommand.h>
 
 // "VIEWCAST": publishes the active drawing and the drawings it references to the Viewcast viewer.
-class CFxViewcast : public CFxCommand
+class CFxViewcast : public CFxNamedCommand
 {
 public:
-    const OdString globalName() const override;
-    const OdString localName() const override;
+    CFxViewcast() : CFxNamedCommand(L"VIEWCAST") {}
+
     int runCommand(OdEdCommandContext* context) override;
 };

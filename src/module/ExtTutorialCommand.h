@@ -1,12 +1,12 @@
 #pragma once
 
-#include <CFxCommand.h>
+#include <CFxNamedCommand.h>
 
 // "TUTORIAL": a placeholder that does nothing.
-class ExtTutorialCommand : public CFxCommand
+class ExtTutorialCommand : public CFxNamedCommand
 {
 public:
-    const OdString globalName() const override;
-    const OdString localName() const override;
+    ExtTutorialCommand() : CFxNamedCommand(L"TUTORIAL") {}
+
     int runCommand(OdEdCommandContext* context) override;
 };

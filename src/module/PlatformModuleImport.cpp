@@ -8,7 +8,7 @@
 void* PlatformModuleImport::resolve(const char* module, const char* symbol)
 {
     const OdRxModulePtr loaded =
-        odrxDynamicLinker()->getModule(OdString(QString::fromLatin1(module).toStdWString()));
+        odrxDynamicLinker()->getModule(toOdString(QString::fromLatin1(module)));
     if (!loaded)
         return nullptr;
     return OdSharedLibrary::resolve(static_cast<OdModuleHandle>(loaded->sysData()), symbol);

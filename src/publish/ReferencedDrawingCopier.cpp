@@ -12,13 +12,6 @@
 #include <utility>
 #include <vector>
 
-namespace {
-QString toQt(const OdString& text)
-{
-    return QString::fromStdWString(text.wide());
-}
-} // namespace
-
 ReferencedDrawingCopier::ReferencedDrawingCopier(QString folder) : m_folder(std::move(folder)) {}
 
 void ReferencedDrawingCopier::copyReferencesOf(OdDbDatabase* database)
@@ -67,11 +60,11 @@ void ReferencedDrawingCopier::copy(const OdDbGraphNode* node) const
 
 QString ReferencedDrawingCopier::referencedFile(const OdDbBlockTableRecord& record)
 {
-    QString path = toQt(record.pathName());
+    QString path = toQString(record.pathName());
     // Drawings made on Windows separate folders with "\".
     path.replace(QLatin1Char('\\'), QLatin1Char('/'));
     if (QDir::isAbsolutePath(path) || !record.database())
         return path;
-    const QFileInfo referring(toQt(record.database()->getFilename()));
+    const QFileInfo referring(toQString(record.database()->getFilename()));
     return QDir(referring.absolutePath()).absoluteFilePath(path);
 }

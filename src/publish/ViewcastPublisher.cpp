@@ -19,16 +19,6 @@
 #include <utility>
 
 namespace {
-QString toQt(const OdString& value)
-{
-    return QString::fromStdWString(value.wide());
-}
-
-OdString toOd(const QString& value)
-{
-    return OdString(value.toStdWString());
-}
-
 // The format version code of the drawings the host itself writes, so that the viewer reads
 // the copy as it reads the host's own files.
 constexpr int kDrawingVersionCode = 27;
@@ -48,7 +38,7 @@ int ViewcastPublisher::publish(OdRxObject* commandDatabase)
     }
     const QString folder = scratchFolder();
     const OdDbDatabasePtr database = OdDbDatabase::cast(commandDatabase);
-    const QFileInfo drawing(database ? toQt(database->getFilename()) : QString());
+    const QFileInfo drawing(database ? toQString(database->getFilename()) : QString());
     const QString copyPath = folder + QLatin1Char('/') + drawing.fileName();
     if (!saveCopy(database.get(), copyPath)) {
         showError();
@@ -94,7 +84,7 @@ bool ViewcastPublisher::saveCopy(OdDbDatabase* database, const QString& path)
         return false;
     try {
         OdStreamBufPtr stream = odSystemServices()->createFile(
-            toOd(path), Oda::kFileWrite, Oda::kShareDenyNo, Oda::kCreateAlways);
+            toOdString(path), Oda::kFileWrite, Oda::kShareDenyNo, Oda::kCreateAlways);
         database->writeFile(stream.get(), OdDb::kDwg,
                             static_cast<OdDb::DwgVersion>(kDrawingVersionCode), true,
                             kDxfPrecision);

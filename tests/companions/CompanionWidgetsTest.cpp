@@ -15,8 +15,8 @@
 #include <gtest/gtest.h>
 
 #include <CFxCommandContext.h>
+#include <CFxHostServices.h>
 #include <CFxRegistry.h>
-#include <CFxSystemServices.h>
 #include <OdEdCommandStack.h>
 #include <OdRxDynamicLinker.h>
 #include <OdSharedLibrary.h>
@@ -70,13 +70,13 @@ protected:
                                      "OmniplaneCSEnable"),
                       true);
         m_window = std::make_unique<QMainWindow>();
-        GetFxSystemServices()->MainFrameCreated(m_window.get());
+        GetFxHostServices()->MainFrameCreated(m_window.get());
     }
 
     void TearDown() override
     {
         if (m_window)
-            GetFxSystemServices()->MainFrameDestroyed(m_window.get());
+            GetFxHostServices()->MainFrameDestroyed(m_window.get());
         m_window.reset();
         m_module.unload();
         // The linker keeps the collaboration connector until shut-down; this test is one.
@@ -132,7 +132,7 @@ TEST_F(CompanionWidgetsTest, AConnectorGoesWithItsViewWhileTheWindowStandsOrWith
     EXPECT_FALSE(window.grab().isNull());
 
     // The online connector's view goes with the window at once; the module waits for ExtCommands.
-    GetFxSystemServices()->MainFrameDestroyed(&window);
+    GetFxHostServices()->MainFrameDestroyed(&window);
     EXPECT_EQ(dockNames(window), QStringList({kQuestions, kPane}));
     EXPECT_TRUE(moduleLoaded(kForgeportModule));
     m_window.reset();
@@ -140,7 +140,7 @@ TEST_F(CompanionWidgetsTest, AConnectorGoesWithItsViewWhileTheWindowStandsOrWith
 
 TEST_F(CompanionWidgetsTest, TheModuleAndItsConnectorsUnloadCleanlyCycleAfterCycle)
 {
-    GetFxSystemServices()->MainFrameDestroyed(m_window.get());
+    GetFxHostServices()->MainFrameDestroyed(m_window.get());
     m_window.reset();
     m_module.unload();
     m_events.clear();
@@ -148,9 +148,9 @@ TEST_F(CompanionWidgetsTest, TheModuleAndItsConnectorsUnloadCleanlyCycleAfterCyc
         QMainWindow window;
         {
             LoadedModule module;
-            GetFxSystemServices()->MainFrameCreated(&window);
+            GetFxHostServices()->MainFrameCreated(&window);
             window.grab(); // painted, docks and all
-            GetFxSystemServices()->MainFrameDestroyed(&window);
+            GetFxHostServices()->MainFrameDestroyed(&window);
         }
         ASSERT_FALSE(moduleLoaded(kForgeportModule)) << "cycle " << cycle;
         ASSERT_TRUE(odrxDynamicLinker()->unloadModule(kOmniplaneModule)) << "cycle " << cycle;
@@ -164,7 +164,7 @@ TEST_F(CompanionWidgetsTest, TheModuleAndItsConnectorsUnloadCleanlyCycleAfterCyc
 TEST_F(CompanionWidgetsTest, SwitchesChangedBetweenTwoMainWindowsApplyToTheNextOne)
 {
     const auto callsOfWindow = [this](bool collaboration, const QString& networkDisabled) {
-        GetFxSystemServices()->MainFrameDestroyed(m_window.get());
+        GetFxHostServices()->MainFrameDestroyed(m_window.get());
         QSettings(CFxRegistry::standInFile(), QSettings::IniFormat)
             .setValue(QStringLiteral("HKEY_LOCAL_MACHINE/SOFTWARE/Corvane/BfxConnectors/"
                                      "OmniplaneCSEnable"),
@@ -174,7 +174,7 @@ TEST_F(CompanionWidgetsTest, SwitchesChangedBetweenTwoMainWindowsApplyToTheNextO
             .setValue(QStringLiteral("Network/premiumnetworkdisable"), networkDisabled);
         m_events.clear();
         m_window = std::make_unique<QMainWindow>();
-        GetFxSystemServices()->MainFrameCreated(m_window.get());
+        GetFxHostServices()->MainFrameCreated(m_window.get());
         QStringList calls = m_events.events().values("companion-call", "call");
         calls.removeAll(QStringLiteral("addXmlTodxf"));
         return calls;

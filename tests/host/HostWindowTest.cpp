@@ -202,7 +202,7 @@ protected:
     std::shared_ptr<const DrawingScene> sceneOf(const QString& name, const QByteArray& content)
     {
         write(name, content);
-        return DrawingScene::of(*OdDbDatabase::readFile(OdString(path(name).toStdWString())));
+        return DrawingScene::of(*OdDbDatabase::readFile(toOdString(path(name))));
     }
     void write(const QString& name, const QByteArray& content)
     {

@@ -98,7 +98,7 @@ const CFxUIMenuEntry* entryRunningACommand(const CFxUI& ui)
                 if (!item)
                     continue;
                 const QString line = HostWindow::commandLineOf(item->GetMacro().toQString());
-                if (odedRegCmds()->lookupCmd(OdString(line.toStdWString())))
+                if (odedRegCmds()->lookupCmd(toOdString(line)))
                     return entry;
             }
         }

@@ -25,4 +25,5 @@ TEST(CFxStringTest, ConvertsToAndFromQtAndPlatformStringsBeyondTheBasicPlane)
     EXPECT_EQ(CFxString(text).toOdString().wide(), std::wstring(L"Größe 図面 \U0001F4D0"));
     EXPECT_EQ(CFxString(CFxString(text).toOdString()).toQString(), text);
     EXPECT_EQ(CFxString("Größe 図面 \xF0\x9F\x93\x90").toQString(), text);
+    EXPECT_EQ(toQString(toOdString(text)), text);
 }

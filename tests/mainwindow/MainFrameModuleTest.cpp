@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include <CFxSystemServices.h>
+#include <CFxHostServices.h>
 #include <CFxUI.h>
 #include <CFxUIJsonReader.h>
 #include <OdEdCommandStack.h>
@@ -54,14 +54,14 @@ protected:
         if (m_mainFrameOpen)
             destroy();
         m_module.reset();
-        GetFxSystemServices()->SetUI(nullptr);
+        GetFxHostServices()->SetUI(nullptr);
     }
 
     static void useProfile(const QString& path)
     {
         auto ui = std::make_unique<CFxUI>();
         CFxUIJsonReader::readFile(path, *ui);
-        GetFxSystemServices()->SetUI(std::move(ui));
+        GetFxHostServices()->SetUI(std::move(ui));
     }
     static void useFixture(const char* name)
     {
@@ -71,13 +71,13 @@ protected:
     void create()
     {
         m_mainFrameOpen = true;
-        GetFxSystemServices()->MainFrameCreated(nullptr);
+        GetFxHostServices()->MainFrameCreated(nullptr);
     }
 
     void destroy()
     {
         m_mainFrameOpen = false;
-        GetFxSystemServices()->MainFrameDestroyed(nullptr);
+        GetFxHostServices()->MainFrameDestroyed(nullptr);
     }
 
     static UiModel model() { return UiModel::of(*GetFxSystemServices()->GetUI()); }

@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include <CFxSystemServices.h>
+#include <CFxHostServices.h>
 #include <OdEdCommandStack.h>
 #include <OdRxModule.h>
 
@@ -47,7 +47,7 @@ protected:
     {
         loaded.reset();
         documents()->CloseAll();
-        GetFxSystemServices()->SetProductVersion(m_saved[0], m_saved[1], m_saved[2], m_saved[3]);
+        GetFxHostServices()->SetProductVersion(m_saved[0], m_saved[1], m_saved[2], m_saved[3]);
         LoadedModule::useFolder();
     }
 
@@ -57,7 +57,7 @@ protected:
         if (recorded)
             TarnCrashReportSendService_setRegVersion(&*recorded);
         recorder.clear();
-        GetFxSystemServices()->SetProductVersion(version[0], version[1], version[2], version[3]);
+        GetFxHostServices()->SetProductVersion(version[0], version[1], version[2], version[3]);
         loaded.emplace();
     }
 
@@ -140,7 +140,7 @@ TEST_F(CrashReportHook, ASecondStartCreatesNoSecondReactor)
 TEST_F(CrashReportHook, WithoutTheCompanionLibraryTheModuleStartsAndNoCheckRuns)
 {
     QTemporaryDir companionFolder;
-    GetFxSystemServices()->SetCompanionFolder(companionFolder.path());
+    GetFxHostServices()->SetCompanionFolder(companionFolder.path());
     start({2017, 0, 9, 3});
     openDocument();
     EXPECT_EQ(recorder.events().count("command-added"), 3);

@@ -12,7 +12,7 @@
 
 #include <CFxCommand.h>
 #include <CFxCommandContext.h>
-#include <CFxSystemServices.h>
+#include <CFxHostServices.h>
 #include <OdEdCommandStack.h>
 #include <OdEditor.h>
 #include <OdSharedLibrary.h>
@@ -74,7 +74,7 @@ TEST_F(ModuleLifecycle, StopTakesBackEverythingTheStartLent)
     // The module's memory and code are gone: a notification that still reached its reactor
     // would not come back.
     QWidget mainFrame;
-    GetFxSystemServices()->MainFrameCreated(&mainFrame);
-    GetFxSystemServices()->MainFrameDestroyed(&mainFrame);
+    GetFxHostServices()->MainFrameCreated(&mainFrame);
+    GetFxHostServices()->MainFrameDestroyed(&mainFrame);
     EXPECT_EQ(recorder.events().all().last().name, "mainframe-destroyed");
 }

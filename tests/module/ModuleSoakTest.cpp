@@ -11,7 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <CFxCommandContext.h>
-#include <CFxSystemServices.h>
+#include <CFxHostServices.h>
 #include <OdEdCommandStack.h>
 #include <OdEditor.h>
 #include <OdSharedLibrary.h>
@@ -30,7 +30,7 @@ TEST(ModuleSoak, AHundredLoadUseUnloadCyclesLeaveNothingBehind)
 
     for (int cycle = 0; cycle < 100; ++cycle) {
         // A new version at every start: the module compares it with the recorded one.
-        GetFxSystemServices()->SetProductVersion(2017, cycle % 2, 0, cycle);
+        GetFxHostServices()->SetProductVersion(2017, cycle % 2, 0, cycle);
         LoadedModule module;
         const QString path = module.path();
         if (cycle % 2 == 0) {
@@ -57,5 +57,5 @@ TEST(ModuleSoak, AHundredLoadUseUnloadCyclesLeaveNothingBehind)
     const QStringList calls = recorder.events().values("companion-call", "call");
     EXPECT_EQ(calls.count("reminderCheck") + calls.count("initialCheckOnInstall"), 67);
     documents->CloseAll();
-    GetFxSystemServices()->SetProductVersion(saved[0], saved[1], saved[2], saved[3]);
+    GetFxHostServices()->SetProductVersion(saved[0], saved[1], saved[2], saved[3]);
 }

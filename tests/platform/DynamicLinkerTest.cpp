@@ -11,7 +11,7 @@
 
 #include <gtest/gtest.h>
 
-#include <CFxSystemServices.h>
+#include <CFxHostServices.h>
 #include <OdEdCommandStack.h>
 #include <OdError.h>
 #include <OdRxDynamicLinker.h>
@@ -118,7 +118,7 @@ TEST_F(DynamicLinker, UnloadAllGoesLatestFirstAndTakesOffTheCommandsAModuleLeftB
     // and hold the online connector, and takes them off only when the window goes.
     linker()->setSearchPath({od(QStringLiteral(EC_FIXTURE_DIR)), od(QStringLiteral(EC_STAGE_DIR))});
     linker()->loadModule(OdString(L"ExtCommands"));
-    GetFxSystemServices()->MainFrameCreated(nullptr);
+    GetFxHostServices()->MainFrameCreated(nullptr);
     linker()->loadModule(OdString(L"ProbeModule"));
     ASSERT_NE(odedRegCmds()->lookupCmd(OdString(L"CHECKFORUPDATES")), nullptr);
     recorder.clear();

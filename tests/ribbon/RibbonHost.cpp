@@ -1,5 +1,6 @@
 #include "RibbonHost.h"
 
+#include <CFxHostServices.h>
 #include <CFxUIJsonReader.h>
 #include <OdSharedLibrary.h>
 
@@ -51,12 +52,11 @@ RibbonHost::RibbonHost()
 {
     auto ui = std::make_unique<CFxUI>();
     CFxUIJsonReader::readFile(kDefaultProfile, *ui);
-    GetFxSystemServices()->SetUI(std::move(ui));
+    GetFxHostServices()->SetUI(std::move(ui));
     m_module = std::make_unique<LoadedModule>();
     // Opening the loaded module again only finds it; closing gives the reference back.
     OdString error;
-    const OdModuleHandle library =
-        OdSharedLibrary::open(OdString(m_module->path().toStdWString()), error);
+    const OdModuleHandle library = OdSharedLibrary::open(toOdString(m_module->path()), error);
     const auto entry = [library](auto& function, const char* name) {
         void* address = library ? OdSharedLibrary::resolve(library, name) : nullptr;
         if (!address)
@@ -74,7 +74,7 @@ RibbonHost::RibbonHost()
 RibbonHost::~RibbonHost()
 {
     m_module.reset();
-    GetFxSystemServices()->SetUI(nullptr);
+    GetFxHostServices()->SetUI(nullptr);
 }
 
 CFxUIRibbonRow* RibbonHost::addInsRow() const

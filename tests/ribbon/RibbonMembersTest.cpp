@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include <CFxSystemServices.h>
+#include <CFxHostServices.h>
 #include <CFxUIJsonReader.h>
 #include <ExtCommands/RibbonMenuItemWrapper.h>
 
@@ -14,7 +14,7 @@ TEST(RibbonMembers, UnloadRibbonMenuTakesAnyRowsPanelWithItsLastButton)
     auto owned = std::make_unique<CFxUI>();
     CFxUIJsonReader::readFile(kDefaultProfile, *owned);
     CFxUI& ui = *owned;
-    GetFxSystemServices()->SetUI(std::move(owned));
+    GetFxHostServices()->SetUI(std::move(owned));
     RibbonMenuItemWrapper* wrapper = RibbonMenuItemWrapper::GetRibbonMenuItemWrapperInstance();
     RibbonItem item = record("ID_MEMBERS_TOOL");
     item.tabId = QStringLiteral("ID_RibbonHomeTab");
@@ -29,5 +29,5 @@ TEST(RibbonMembers, UnloadRibbonMenuTakesAnyRowsPanelWithItsLastButton)
     EXPECT_EQ(ids(exactly(ui.GetMenuGroups(), "QUILLON")->GetRibbonTabs().GetAt(0)->GetPanels()),
               (QStringList{"ID_RibbonModifyPanel", "ID_RibbonAnnotationPanel"}))
         << "the emptied row's panel goes, with the host's own row that it holds";
-    GetFxSystemServices()->SetUI(nullptr);
+    GetFxHostServices()->SetUI(nullptr);
 }

@@ -1,13 +1,13 @@
 #include "LoadedModule.h"
 
-#include <CFxSystemServices.h>
+#include <CFxHostServices.h>
 #include <OdRxDynamicLinker.h>
 
 void LoadedModule::useFolder(const QString& folder)
 {
     const QString chosen = folder.isEmpty() ? stageFolder() : folder;
-    odrxDynamicLinker()->setSearchPath({OdString(chosen.toStdWString())});
-    GetFxSystemServices()->SetCompanionFolder(chosen);
+    odrxDynamicLinker()->setSearchPath({toOdString(chosen)});
+    GetFxHostServices()->SetCompanionFolder(chosen);
 }
 
 LoadedModule::LoadedModule(const QString& name) : m_name(name)
@@ -15,9 +15,9 @@ LoadedModule::LoadedModule(const QString& name) : m_name(name)
     if (odrxDynamicLinker()->searchPath().empty())
         useFolder();
     // A module that cannot be loaded throws OdError, a std::exception that names it.
-    OdRxModulePtr module = odrxDynamicLinker()->loadModule(OdString(name.toStdWString()), false);
+    OdRxModulePtr module = odrxDynamicLinker()->loadModule(toOdString(name), false);
     m_module = module.get();
-    m_path = QString::fromStdWString(m_module->moduleName().wide());
+    m_path = toQString(m_module->moduleName());
 }
 
 LoadedModule::~LoadedModule()
@@ -30,7 +30,7 @@ bool LoadedModule::unload()
     if (!m_module)
         return false;
     m_module = nullptr;
-    const bool unloaded = odrxDynamicLinker()->unloadModule(OdString(m_name.toStdWString()));
+    const bool unloaded = odrxDynamicLinker()->unloadModule(toOdString(m_name));
     odrxDynamicLinker()->unloadUnreferenced();
     return unloaded;
 }

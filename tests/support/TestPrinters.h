@@ -21,7 +21,7 @@ inline void PrintTo(const QString& text, std::ostream* out)
 
 inline void PrintTo(const OdString& text, std::ostream* out)
 {
-    PrintTo(QString::fromStdWString(text.wide()), out);
+    PrintTo(toQString(text), out);
 }
 
 inline void PrintTo(const QJsonObject& object, std::ostream* out)

@@ -1,16 +1,15 @@
 #pragma once
 
-// Conversions between Qt's strings and the platform's, as tests write them.
-#include <QString>
-
+// The SDK's conversions between Qt's strings and the platform's, under the short names that
+// tests write.
 #include <OdString.h>
 
 inline OdString od(const QString& text)
 {
-    return OdString(text.toStdWString());
+    return toOdString(text);
 }
 
 inline QString qt(const OdString& text)
 {
-    return QString::fromStdWString(text.wide());
+    return toQString(text);
 }

@@ -24,7 +24,7 @@ QString errorOf(const std::function<void()>& read)
     try {
         read();
     } catch (const OdError& error) {
-        return QString::fromStdWString(error.description().wide());
+        return toQString(error.description());
     }
     return "<read without error>";
 }
