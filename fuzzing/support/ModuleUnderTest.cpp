@@ -8,11 +8,9 @@
 #include <CFxUI.h>
 #include <CFxUIJsonReader.h>
 #include <OdRxDynamicLinker.h>
-#include <OdSharedLibrary.h>
 #include <private/qcoreapplication_p.h>
 
 #include <memory>
-#include <stdexcept>
 
 namespace {
 const wchar_t kModule[] = L"ExtCommands";
@@ -68,22 +66,8 @@ void ModuleUnderTest::emptyLoadedItems()
 
 void ModuleUnderTest::resolveEntries()
 {
-    // Opening the loaded module again only finds it; closing gives the reference back.
-    OdString error;
-    const OdModuleHandle library = OdSharedLibrary::open(
-        odrxDynamicLinker()->loadModule(OdString(kModule), false)->moduleName(), error);
-    const auto entry = [library](auto& function, const char* name) {
-        void* address = library ? OdSharedLibrary::resolve(library, name) : nullptr;
-        if (!address)
-            throw std::runtime_error(std::string("the module exports no ") + name);
-        function = reinterpret_cast<std::remove_reference_t<decltype(function)>>(address);
-    };
-    entry(load, "LoadRibbonMenuWrapper");
-    entry(unload, "UnLoadRibbonMenuWrapper");
-    entry(setVisibility, "SetRibbonItemVisibility");
-    entry(loadExportTable, "LoadExportTableRibbonMenuWrapper");
-    entry(unloadExportTable, "UnLoadExportTableRibbonMenuWrapper");
-    OdSharedLibrary::close(library);
+    static_cast<RibbonEntryPoints&>(*this) = RibbonEntryPoints::find(
+        odrxDynamicLinker()->loadModule(OdString(kModule), false)->moduleName());
 }
 
 void ModuleUnderTest::mainFrameCreated()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "RibbonEntryPoints.h"
+
 #include <QString>
 
 #include <ExtCommands/RibbonItem.h>
@@ -15,7 +17,7 @@ class QWidget;
 // it keeps between calls (the ribbon's loaded-item table) is emptied through its own interface
 // when an input ends, and the main window, the UI and the translators that its main windows
 // installed go with the input: each input starts where a freshly loaded module starts.
-class ModuleUnderTest
+class ModuleUnderTest : public RibbonEntryPoints
 {
 public:
     ModuleUnderTest();
@@ -25,12 +27,6 @@ public:
 
     void mainFrameCreated();
     void mainFrameDestroyed();
-
-    void (*load)(RibbonItem*, int) = nullptr;
-    void (*unload)(const QString&) = nullptr;
-    void (*setVisibility)(const QString&, bool) = nullptr;
-    void (*loadExportTable)() = nullptr;
-    void (*unloadExportTable)() = nullptr;
 
 private:
     static void loadModule();

@@ -2,9 +2,6 @@
 
 #include <CFxHostServices.h>
 #include <CFxUIJsonReader.h>
-#include <OdSharedLibrary.h>
-
-#include <stdexcept>
 
 RibbonItem record(const QString& id, const QString& type)
 {
@@ -54,21 +51,7 @@ RibbonHost::RibbonHost()
     CFxUIJsonReader::readFile(kDefaultProfile, *ui);
     GetFxHostServices()->SetUI(std::move(ui));
     m_module = std::make_unique<LoadedModule>();
-    // Opening the loaded module again only finds it; closing gives the reference back.
-    OdString error;
-    const OdModuleHandle library = OdSharedLibrary::open(toOdString(m_module->path()), error);
-    const auto entry = [library](auto& function, const char* name) {
-        void* address = library ? OdSharedLibrary::resolve(library, name) : nullptr;
-        if (!address)
-            throw std::runtime_error(std::string("the module exports no ") + name);
-        function = reinterpret_cast<std::remove_reference_t<decltype(function)>>(address);
-    };
-    entry(load, "LoadRibbonMenuWrapper");
-    entry(unload, "UnLoadRibbonMenuWrapper");
-    entry(setVisibility, "SetRibbonItemVisibility");
-    entry(loadExportTable, "LoadExportTableRibbonMenuWrapper");
-    entry(unloadExportTable, "UnLoadExportTableRibbonMenuWrapper");
-    OdSharedLibrary::close(library);
+    static_cast<RibbonEntryPoints&>(*this) = RibbonEntryPoints::find(toOdString(m_module->path()));
 }
 
 RibbonHost::~RibbonHost()

@@ -3,6 +3,7 @@
 #include "EventRecorder.h"
 #include "IsolatedHome.h"
 #include "LoadedModule.h"
+#include "RibbonEntryPoints.h"
 
 #include <QStringList>
 
@@ -46,7 +47,7 @@ CFxUIRibbonSystemMenuItem* menuEntry(const CFxUIGroup& group, const QStringList&
 // The module loaded afresh through the platform's dynamic linker (its tables start empty), a
 // host UI from the default profile, and the exported functions found by name, as a sibling
 // finds them. The module is unloaded and the UI dropped with it.
-class RibbonHost
+class RibbonHost : public RibbonEntryPoints
 {
 public:
     RibbonHost();
@@ -64,12 +65,6 @@ public:
     {
         return addInsRow() ? exactly(addInsRow()->GetButtons(), id) : nullptr;
     }
-
-    void (*load)(RibbonItem*, int) = nullptr;
-    void (*unload)(const QString&) = nullptr;
-    void (*setVisibility)(const QString&, bool) = nullptr;
-    void (*loadExportTable)() = nullptr;
-    void (*unloadExportTable)() = nullptr;
 
 private:
     IsolatedHome m_home;
