@@ -3,7 +3,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QRegularExpression>
+
+#include <algorithm>
 
 namespace {
 QByteArray compactJson(const QJsonValue& value)
@@ -13,14 +14,21 @@ QByteArray compactJson(const QJsonValue& value)
     return wrapped.mid(1, wrapped.size() - 2);
 }
 
+// A value shown as it is: one word that cannot be mistaken for the next field or a quoted text.
+bool isPlainWord(const QString& text)
+{
+    return !text.isEmpty() && std::none_of(text.begin(), text.end(), [](QChar c) {
+        return c.isSpace() || c == QLatin1Char('"') || c == QLatin1Char('=');
+    });
+}
+
 QByteArray readableValue(const QJsonValue& value)
 {
     if (value.isObject())
         return QJsonDocument(value.toObject()).toJson(QJsonDocument::Indented).trimmed();
     if (value.isString()) {
-        static const QRegularExpression plain(QStringLiteral("^[^\\s\"=]+$"));
         const QString text = value.toString();
-        return plain.match(text).hasMatch() ? text.toUtf8() : compactJson(value);
+        return isPlainWord(text) ? text.toUtf8() : compactJson(value);
     }
     return compactJson(value);
 }

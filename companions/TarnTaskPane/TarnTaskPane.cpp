@@ -54,7 +54,7 @@ void TarnTaskPane::showTaskPane()
 void TarnTaskPane::showViewcastMeassage()
 {
     reportCompanionCall(kLibrary, QStringLiteral("showViewcastMeassage"));
-    if (!paneDock().dock()) {
+    if (!paneDock().isAdded()) {
         // No pane to show it in (none installed in this window, or the network companions are
         // switched off): the user must still learn why nothing was published.
         GetFxSystemServices()->FxMessageBox(TaskPanePage::viewcastNoticeText(),

@@ -24,10 +24,21 @@ DelayLoadLibrary& DelayLoadLibrary::companion(const char* baseName)
 
 DelayLoadLibrary::DelayLoadLibrary(QString baseName) : m_baseName(std::move(baseName)) {}
 
+QString DelayLoadLibrary::fileName() const
+{
+    // The one name the library has on this system. Given the base name alone, QLibrary would
+    // try each prefix and suffix it knows in turn, each a failed load before the right one.
+#ifdef Q_OS_WIN
+    return m_baseName + QStringLiteral(".dll");
+#else
+    return QStringLiteral("lib") + m_baseName + QStringLiteral(".so");
+#endif
+}
+
 bool DelayLoadLibrary::load()
 {
     if (m_library.isLoaded())
         return true;
-    m_library.setFileName(QDir(GetFxSystemServices()->GetCompanionFolder()).filePath(m_baseName));
+    m_library.setFileName(QDir(GetFxSystemServices()->GetCompanionFolder()).filePath(fileName()));
     return m_library.load();
 }

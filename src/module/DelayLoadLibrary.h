@@ -25,6 +25,8 @@ public:
 private:
     explicit DelayLoadLibrary(QString baseName);
 
+    QString fileName() const;
+
     QString m_baseName;
     QLibrary m_library;
 };

@@ -104,6 +104,10 @@ TEST(EventPrinterTest, WritesTheFieldsInTheirOrderAsJsonOrAsReadableText)
               R"(command-ended name=_Home result=5100 args=["a b",1] )"
               R"(path="/my drawings/plan \"A\".dxf" none=null)");
     EXPECT_EQ(EventPrinter::readableLine("mainframe-created", {}), "mainframe-created");
+    // Only a word that cannot run into the next field stands bare; an event stays one line.
+    EXPECT_EQ(EventPrinter::readableLine("url-opened",
+                                         {{"equals", "a=b"}, {"empty", ""}, {"tail", "plan\n"}}),
+              R"(url-opened equals="a=b" empty="" tail="plan\n")");
 }
 
 // Each main window installs translators of its own and takes them away again: in a long session
