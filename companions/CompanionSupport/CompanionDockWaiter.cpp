@@ -57,7 +57,7 @@ void CompanionDockWaiter::bringToFront()
 bool CompanionDockWaiter::eventFilter(QObject* watched, QEvent* event)
 {
     // The first waiter to see the window show places them all, in the order they were asked for.
-    if (watched == m_window && event->type() == QEvent::Show && !objectName().isEmpty())
+    if (watched == m_window && event->type() == QEvent::Show)
         placeAllWaiting(m_window);
     return QObject::eventFilter(watched, event);
 }
