@@ -54,6 +54,8 @@ private:
 
     LanguageEntry m_default;
     std::vector<std::unique_ptr<LanguageEntry>> m_entries;
+    // The entries (which the table owns in m_entries) by Qt language, where of two entries of
+    // one language the later one stands, and by the host's id.
     std::map<int, const LanguageEntry*> byQtLanguage;
     std::map<int, const LanguageEntry*> byId;
     QLocale m_systemLocale;
