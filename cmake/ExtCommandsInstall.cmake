@@ -1,6 +1,7 @@
 # The sibling SDK: what a module built outside this project needs to call the ExtCommands
 # module's exported ribbon interface. `cmake --install` puts into the prefix:
-#   include/ExtCommands/           the public headers (RibbonItem, the exported functions)
+#   include/ExtCommands/           the public headers (RibbonItem, the exported functions, the
+#                                  don't-show-again box with its generated form)
 #   include/ExtCommands/sdk/...    the headers of the platform and kernel libraries
 #   lib/                           TD_Root, TD_Db, FxKernel and the ExtCommands module itself
 #   lib/cmake/ExtCommands/         the package: find_package(ExtCommands) gives the imported
@@ -13,9 +14,23 @@ include(CMakePackageConfigHelpers)
 
 set(EC_PACKAGE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/ExtCommands")
 
-# The public headers are reached as <ExtCommands/...>, and they use Qt's strings and lists.
+# The header that AUTOUIC generates from the don't-show-again box's form is a public header:
+# the box's public header holds the form by value. A multi-configuration generator keeps one
+# per configuration.
+get_target_property(EC_AUTOGEN_DIR ExtCommands AUTOGEN_BUILD_DIR)
+get_property(EC_MULTI_CONFIG GLOBAL PROPERTY GENERATOR_IS_MULTI_CONFIG)
+if(EC_MULTI_CONFIG)
+    set(EC_FORM_HEADER_DIR "${EC_AUTOGEN_DIR}/include_$<CONFIG>")
+else()
+    set(EC_FORM_HEADER_DIR "${EC_AUTOGEN_DIR}/include")
+endif()
+
+# The public headers are reached as <ExtCommands/...>, and they use Qt's strings and lists. In
+# the build tree the form's header is found in its own folder; installed, it lies beside the
+# header that includes it.
 target_include_directories(ExtCommands INTERFACE
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
+    $<BUILD_INTERFACE:${EC_FORM_HEADER_DIR}>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
 target_link_libraries(ExtCommands INTERFACE Qt5::Core)
 
@@ -29,6 +44,8 @@ install(TARGETS TD_Root TD_Db FxKernel ExtCommands EXPORT ExtCommandsTargets
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/ExtCommands"
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
     FILES_MATCHING PATTERN "*.h")
+install(FILES "${EC_FORM_HEADER_DIR}/ui_CDontShowAgainMessageBox.h"
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ExtCommands)
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/sdk/platform/"
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ExtCommands/sdk/platform
     FILES_MATCHING PATTERN "*.h")

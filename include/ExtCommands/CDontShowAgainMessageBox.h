@@ -1,12 +1,11 @@
 #pragma once
 
 #include "ExtCommandsExport.h"
+#include "ui_CDontShowAgainMessageBox.h"
 
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QString>
-
-#include <memory>
 
 class QAbstractButton;
 class QSettings;
@@ -45,15 +44,16 @@ protected Q_SLOTS:
     virtual void checkboxStateChanged(int state);
 
 private:
-    // The form generated from the module's .ui file; its definition stays in the module.
-    class Form;
-
     void setUpForm(const QString& message, QDialogButtonBox::StandardButtons buttons);
     void connectForm();
     QString checkedKey() const;
 
-    std::unique_ptr<Form> m_form;
+    // A derived box is laid out after these members, in a sibling's own build: their order,
+    // types and sizes are part of the module's binary interface. The form is the one generated
+    // from the module's .ui file, and comes with this header.
+    Ui::DontShowAgainMessageBoxDialog m_form;
     int m_checkState;
-    std::unique_ptr<QSettings> m_settings;
+    // Owned; null when the settings could not be opened.
+    QSettings* m_settings;
     QString m_id;
 };

@@ -4,11 +4,21 @@
 #include <OdEdUserIO.h>
 #include <OdError.h>
 
-SampleCommand::SampleCommand(const wchar_t* localName) : CFxNamedCommand(localName) {}
+SampleCommand::SampleCommand(const wchar_t* localName) : m_localName(localName) {}
 
 const OdString SampleCommand::groupName() const
 {
     return OdString(L"SAMPLESIBLING");
+}
+
+const OdString SampleCommand::globalName() const
+{
+    return OdString(L"_") + m_localName;
+}
+
+const OdString SampleCommand::localName() const
+{
+    return m_localName;
 }
 
 QString SampleCommand::askString(OdEdCommandContext* context, const wchar_t* prompt)

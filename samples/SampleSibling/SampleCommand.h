@@ -2,16 +2,18 @@
 
 #include <QString>
 
-#include <CFxNamedCommand.h>
+#include <CFxCommand.h>
 
 // A command of the sample: its group, its names ("NAME" and "_NAME"), and the prompts and
 // messages through which it talks with the user on the command line.
-class SampleCommand : public CFxNamedCommand
+class SampleCommand : public CFxCommand
 {
 public:
     explicit SampleCommand(const wchar_t* localName);
 
     const OdString groupName() const override;
+    const OdString globalName() const override;
+    const OdString localName() const override;
 
 protected:
     // The user's answer to `prompt`; empty when the user gave none.
@@ -22,4 +24,9 @@ protected:
                        int& value);
     // Tells the user `text`, after the command's name.
     void tell(OdEdCommandContext* context, const QString& text) const;
+
+private:
+    // A copy: the host may keep a name after this module is gone, so none may point into the
+    // module's library.
+    OdString m_localName;
 };

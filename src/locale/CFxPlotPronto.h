@@ -1,12 +1,12 @@
 #pragma once
 
-#include <CFxNamedCommand.h>
+#include <CFxCommand.h>
 
 // "PLOT_PRONTO": opens the PlotPronto project page of the maker's labs site.
-class CFxPlotPronto : public CFxNamedCommand
+class CFxPlotPronto : public CFxCommand
 {
 public:
-    CFxPlotPronto() : CFxNamedCommand(L"PLOT_PRONTO") {}
-
+    const OdString globalName() const override;
+    const OdString localName() const override;
     int runCommand(OdEdCommandContext* context) override;
 };

@@ -8,7 +8,7 @@
 // folder's name, so that it can be joined to a base folder as it stands.
 struct LanguageEntry
 {
-    LanguageEntry(int id, const CFxString& displayName, int qtLanguage, bool hostListMark,
+    LanguageEntry(int id, const CFxString& displayName, int qtLanguage, bool flag,
                   const QString& folderName);
 
     int id;
@@ -17,6 +17,6 @@ struct LanguageEntry
     // The yes-or-no mark that the host's own language list carries beside each language. Its
     // meaning is the host's; the module copies it so that the table matches the host's list,
     // and reads it nowhere.
-    bool hostListMark;
+    bool flag;
     CFxString folder;
 };

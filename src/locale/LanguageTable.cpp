@@ -1,7 +1,10 @@
 #include "LanguageTable.h"
 
-#include <QLocale>
+#include "TranslatorInstaller.h"
+
 #include <QObject>
+
+#include <CFxSystemServices.h>
 
 namespace {
 struct Language
@@ -9,7 +12,7 @@ struct Language
     int id;
     const char* displayName;
     QLocale::Language qtLanguage;
-    bool hostListMark;
+    bool flag;
     const char* folderName;
 };
 
@@ -46,27 +49,78 @@ constexpr Language kLanguages[] = {
 };
 } // namespace
 
-LanguageTable::LanguageTable() : m_default(2, QObject::tr("English"), QLocale::English, true, {})
+LanguageTable::LanguageTable() : LanguageTable(QLocale::system()) {}
+
+LanguageTable::LanguageTable(const QLocale& systemLocale)
+    : m_default(2, QObject::tr("English"), QLocale::English, true, {}), m_systemLocale(systemLocale)
 {
-    for (const Language& language : kLanguages) {
-        m_entries.push_back(std::make_unique<LanguageEntry>(
-            language.id, QObject::tr(language.displayName), language.qtLanguage,
-            language.hostListMark, QString::fromUtf8(language.folderName)));
-        const LanguageEntry* entry = m_entries.back().get();
-        // A later entry of the same Qt language replaces the earlier one.
-        m_byQtLanguage[language.qtLanguage] = entry;
-        m_byId[language.id] = entry;
-    }
+    for (const Language& language : kLanguages)
+        add(LanguageEntry(language.id, QObject::tr(language.displayName), language.qtLanguage,
+                          language.flag, QString::fromUtf8(language.folderName)));
+}
+
+void LanguageTable::add(const LanguageEntry& entry)
+{
+    m_entries.push_back(std::make_unique<LanguageEntry>(entry));
+    const LanguageEntry* added = m_entries.back().get();
+    // A later entry of the same Qt language replaces the earlier one.
+    byQtLanguage[added->qtLanguage] = added;
+    byId[added->id] = added;
 }
 
 const LanguageEntry& LanguageTable::entryById(int id) const
 {
-    const auto found = m_byId.find(id);
-    return found == m_byId.end() ? m_default : *found->second;
+    const auto found = byId.find(id);
+    return found == byId.end() ? m_default : *found->second;
 }
 
-const LanguageEntry& LanguageTable::entryByQtLanguage(int language) const
+const LanguageEntry& LanguageTable::entryForQtLanguage(int language) const
 {
-    const auto found = m_byQtLanguage.find(language);
-    return found == m_byQtLanguage.end() ? m_default : *found->second;
+    if (isTraditionalChineseSystem())
+        return entryById(kTraditionalChineseId);
+    if (!isSimplifiedChineseSystem()) {
+        const auto found = byQtLanguage.find(language);
+        return found == byQtLanguage.end() ? m_default : *found->second;
+    }
+    return entryById(kSimplifiedChineseId);
+}
+
+bool LanguageTable::isSimplifiedChineseSystem() const
+{
+    return m_systemLocale.language() == QLocale::Chinese &&
+           m_systemLocale.country() == QLocale::China;
+}
+
+bool LanguageTable::isTraditionalChineseSystem() const
+{
+    return m_systemLocale.language() == QLocale::Chinese &&
+           m_systemLocale.country() != QLocale::China;
+}
+
+int LanguageTable::systemLanguageId() const
+{
+    return entryForQtLanguage(m_systemLocale.language()).id;
+}
+
+const LanguageEntry& LanguageTable::currentEntry() const
+{
+    int id = GetFxSystemServices()->GetCurrentLanguageId();
+    if (id == kSystemId)
+        id = systemLanguageId();
+    return entryById(id);
+}
+
+void LanguageTable::loadTranslators(int requestedId) const
+{
+    const TranslatorInstaller installer(TranslatorInstaller::hostMessagesFolder());
+    if (requestedId == kSystemId) {
+        // The system's language is looked up and then not used: the host's setting, which
+        // resolves "System" itself, decides all the same.
+        static_cast<void>(entryById(systemLanguageId()));
+    }
+    const LanguageEntry& entry = currentEntry();
+    // Set before any folder is looked at, whether translations are found or not.
+    QLocale::setDefault(
+        QLocale(static_cast<QLocale::Language>(entry.qtLanguage), QLocale::AnyCountry));
+    installer.install(entry);
 }

@@ -1,6 +1,5 @@
 #include "ProductPage.h"
 
-#include "CurrentLanguage.h"
 #include "LanguageTable.h"
 
 #include <QDesktopServices>
@@ -32,7 +31,6 @@ QString productPageAddress(const LanguageEntry& language, const QString& suffix)
 
 void openProductPage(const QString& suffix)
 {
-    const LanguageTable table;
-    const LanguageEntry language = currentLanguage(table);
+    const LanguageEntry language = LanguageTable().currentEntry();
     QDesktopServices::openUrl(QUrl(productPageAddress(language, suffix), QUrl::TolerantMode));
 }

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <CFxNamedCommand.h>
+#include <CFxCommand.h>
 
 // "CHECKFORUPDATES": opens the product page from which the current release is downloaded, in the
 // host's language.
-class qnCheckforUpdates : public CFxNamedCommand
+class qnCheckforUpdates : public CFxCommand
 {
 public:
-    qnCheckforUpdates() : CFxNamedCommand(L"CHECKFORUPDATES") {}
-
+    const OdString globalName() const override;
+    const OdString localName() const override;
     int runCommand(OdEdCommandContext* context) override;
 };

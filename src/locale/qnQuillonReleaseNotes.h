@@ -1,12 +1,12 @@
 #pragma once
 
-#include <CFxNamedCommand.h>
+#include <CFxCommand.h>
 
 // "RELEASENOTES": opens the release notes of the latest version, in the host's language.
-class qnQuillonReleaseNotes : public CFxNamedCommand
+class qnQuillonReleaseNotes : public CFxCommand
 {
 public:
-    qnQuillonReleaseNotes() : CFxNamedCommand(L"RELEASENOTES") {}
-
+    const OdString globalName() const override;
+    const OdString localName() const override;
     int runCommand(OdEdCommandContext* context) override;
 };

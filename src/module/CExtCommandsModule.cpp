@@ -28,8 +28,8 @@ void CExtCommandsModule::createCrashReactor()
     TarnCrashReportSendService service;
     QString stored;
     const bool recorded = service.getRegVersion(stored);
-    crashReactor =
-        new TarnCrashReportEditorReactor(crashReportInstallCheck(recorded, stored, current));
+    const bool installCheck = crashReportInstallCheck(recorded, stored, current);
+    crashReactor = new TarnCrashReportEditorReactor(installCheck);
     GetFxSystemServices()->GetDocumentManager()->AddReactor(crashReactor);
 }
 

@@ -2,6 +2,16 @@
 
 #include <IQuestionView.h>
 
+const OdString CFxCommunityCommand::globalName() const
+{
+    return OdString(L"_Community");
+}
+
+const OdString CFxCommunityCommand::localName() const
+{
+    return OdString(L"Community");
+}
+
 int CFxCommunityCommand::runCommand(OdEdCommandContext*)
 {
     IQuestionView().showiQuestionView();

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <CFxNamedCommand.h>
+#include <CFxCommand.h>
 
 // "Community": shows the community question view.
-class CFxCommunityCommand : public CFxNamedCommand
+class CFxCommunityCommand : public CFxCommand
 {
 public:
-    CFxCommunityCommand() : CFxNamedCommand(L"Community") {}
-
+    const OdString globalName() const override;
+    const OdString localName() const override;
     int runCommand(OdEdCommandContext* context) override;
 };

@@ -3,7 +3,7 @@
 #include "CompanionSettings.h"
 #include "DelayLoadLibrary.h"
 #include "common/HostIdentifiers.h"
-#include "locale/TranslatorLoader.h"
+#include "locale/LanguageTable.h"
 #include "ribbon/HostMainGroup.h"
 #include "ribbon/RibbonContainers.h"
 
@@ -35,9 +35,11 @@ void CFxExtCommands::mainFrameCreated(QWidget*)
 {
     QUuid installationId = GetFxSystemServices()->GetInstallationId();
     {
-        // Installs the translators before anything shows a text; they stay installed.
-        const TranslatorLoader translatorLoader;
-        translatorLoader.load(1);
+        // The translator loader, a language table of this window's own: it installs the
+        // translators before anything shows a text, and goes when the window's work is done
+        // (the translators stay installed).
+        const LanguageTable translatorLoader;
+        translatorLoader.loadTranslators(1);
         createAddInsTab();
         addQuestionView();
         addCollaborationView();

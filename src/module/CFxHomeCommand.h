@@ -1,12 +1,12 @@
 #pragma once
 
-#include <CFxNamedCommand.h>
+#include <CFxCommand.h>
 
 // "Home": shows the host's task pane.
-class CFxHomeCommand : public CFxNamedCommand
+class CFxHomeCommand : public CFxCommand
 {
 public:
-    CFxHomeCommand() : CFxNamedCommand(L"Home") {}
-
+    const OdString globalName() const override;
+    const OdString localName() const override;
     int runCommand(OdEdCommandContext* context) override;
 };

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <CFxNamedCommand.h>
+#include <CFxCommand.h>
 
 // "VIEWCAST": publishes the active drawing and the drawings it references to the Viewcast viewer.
-class CFxViewcast : public CFxNamedCommand
+class CFxViewcast : public CFxCommand
 {
 public:
-    CFxViewcast() : CFxNamedCommand(L"VIEWCAST") {}
-
+    const OdString globalName() const override;
+    const OdString localName() const override;
     int runCommand(OdEdCommandContext* context) override;
 };

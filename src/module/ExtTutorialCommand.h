@@ -1,12 +1,12 @@
 #pragma once
 
-#include <CFxNamedCommand.h>
+#include <CFxCommand.h>
 
 // "TUTORIAL": a placeholder that does nothing.
-class ExtTutorialCommand : public CFxNamedCommand
+class ExtTutorialCommand : public CFxCommand
 {
 public:
-    ExtTutorialCommand() : CFxNamedCommand(L"TUTORIAL") {}
-
+    const OdString globalName() const override;
+    const OdString localName() const override;
     int runCommand(OdEdCommandContext* context) override;
 };

@@ -9,6 +9,7 @@
 #include <QObject>
 
 #include <CFxCommand.h>
+#include <CFxDocument.h>
 #include <CFxRegistry.h>
 #include <CFxSystemServices.h>
 #include <OdDbDatabase.h>
@@ -29,7 +30,7 @@ ViewcastPublisher::ViewcastPublisher(std::unique_ptr<ViewerAutomation> automatio
     : m_automation(std::move(automation))
 {}
 
-int ViewcastPublisher::publish(OdRxObject* commandDatabase)
+int ViewcastPublisher::publish(OdRxObject*)
 {
     const int newest = registeredVersion();
     if (newest < VcModelViewerAutomation::firstVersion || !findServer(newest)) {
@@ -37,7 +38,8 @@ int ViewcastPublisher::publish(OdRxObject* commandDatabase)
         return RTNORM;
     }
     const QString folder = scratchFolder();
-    const OdDbDatabasePtr database = OdDbDatabase::cast(commandDatabase);
+    // Held for the whole publishing, whatever happens to the document meanwhile.
+    const OdDbDatabasePtr database = activeDatabase();
     const QFileInfo drawing(database ? toQString(database->getFilename()) : QString());
     const QString copyPath = folder + QLatin1Char('/') + drawing.fileName();
     if (!saveCopy(database.get(), copyPath)) {
@@ -46,6 +48,12 @@ int ViewcastPublisher::publish(OdRxObject* commandDatabase)
     }
     copyAndOpen(database.get(), folder, copyPath, drawing.baseName() + heapText(".vcst"));
     return RTNORM;
+}
+
+OdDbDatabase* ViewcastPublisher::activeDatabase()
+{
+    const CFxDocument* document = ACTIVE_DOCUMENT;
+    return document ? document->GetFxDatabase() : nullptr;
 }
 
 int ViewcastPublisher::registeredVersion()

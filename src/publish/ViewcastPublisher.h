@@ -19,11 +19,14 @@ class ViewcastPublisher
 public:
     explicit ViewcastPublisher(std::unique_ptr<ViewerAutomation> automation);
 
-    // Publishes `database` (the drawing a command works on; null or not a drawing counts as a
-    // drawing never saved). Always gives RTNORM.
-    int publish(OdRxObject* database);
+    // Publishes the active document's drawing; `commandObject` is the object that the host
+    // hands to commands, and is not what is published. No active document, or one whose file
+    // is not a drawing, counts as a drawing never saved. Always gives RTNORM.
+    int publish(OdRxObject* commandObject);
 
 private:
+    // The active document's drawing, or null.
+    static OdDbDatabase* activeDatabase();
     // The version that the registry names as the viewer's current one; 0 when none.
     static int registeredVersion();
     // Looks for a creatable server from `newest` down to the first version.

@@ -277,6 +277,27 @@ TEST_F(PublishToViewcast, CopiesGoIntoTheScratchFolderLosslesslyOnceEachAndOverw
                                " ??.vcst"}));
 }
 
+// What is published is the active document's drawing, not the one opened last; with no document
+// open there is nothing to save, which the error box tells.
+TEST_F(PublishToViewcast, TheActiveDocumentIsPublishedAndWithoutOneTheErrorBoxShows)
+{
+    installViewer({10});
+    writeFile(m_host.home() + "/active.qs",
+              QString("VIEWCAST\nopen \"%1\"\nopen \"%2\"\nactivate 1\nVIEWCAST\nwait-events\n")
+                  .arg(drawing("site/plan.dxf"), drawing("tree/main.dxf"))
+                  .toUtf8());
+    const HostResult result =
+        m_host.run({m_host.home() + "/active.qs", "--registry", registryFile()});
+    ASSERT_EQ(result.exitCode, 0) << result.standardError.toStdString();
+    EXPECT_EQ(result.events.timeline({"command-ended result"}),
+              QStringList({"command-ended 5100", "command-ended 5100"}));
+    EXPECT_EQ(taskPaneAndErrors(result), QStringList{"Can not publish this document to Viewcast"});
+    EXPECT_EQ(result.events.values("file-written", "path"), QStringList{scratch("plan.dxf")});
+    EXPECT_EQ(viewerCalls(result),
+              QStringList{"VcModelViewer.VcstViewer.10 IDispatch::Invoke(53) opened " +
+                          scratch("plan.dxf") + " plan.vcst"});
+}
+
 TEST_F(PublishToViewcast, DrawingNeverSavedOrScratchFolderNotWritableShowsTheErrorBox)
 {
     installViewer({10});
