@@ -3,13 +3,13 @@
 #include "ReferencedDrawingCopier.h"
 #include "ViewerVersion.h"
 #include "common/HeapText.h"
+#include "common/SystemRegistry.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QObject>
 
 #include <CFxCommand.h>
-#include <CFxRegistry.h>
 #include <CFxSystemServices.h>
 #include <OdDbDatabase.h>
 #include <OdRxSystemServices.h>
@@ -50,9 +50,7 @@ int ViewcastPublisher::publish(OdRxObject* commandDatabase)
 
 int ViewcastPublisher::registeredVersion()
 {
-    const auto key =
-        CFxRegistry::openKey(heapText("HKEY_CLASSES_ROOT\\VcModelViewer.VcstViewer\\CurVer"));
-    return viewerVersion(key->value(heapText("Default")).toString());
+    return viewerVersion(SystemRegistry::classesRootDefault(L"VcModelViewer.VcstViewer\\CurVer"));
 }
 
 bool ViewcastPublisher::findServer(int newest)
