@@ -47,6 +47,12 @@ class Runner:
             "QT_QPA_PLATFORM": "offscreen",
         })
         env.pop("DBUS_SESSION_BUS_ADDRESS", None)
+        # The companion libraries come from the stage folder, first on the library search path:
+        # the in-process benchmarks load the module themselves, and a host started so runs as it
+        # is, without first starting itself again to arrange the search (docs/host.md).
+        stage = os.path.join(self.build, "bin")
+        env["LD_LIBRARY_PATH"] = ":".join(
+            [stage] + [part for part in env.get("LD_LIBRARY_PATH", "").split(":") if part])
         os.makedirs(env["XDG_RUNTIME_DIR"], mode=0o700, exist_ok=True)
         env.update(extra or {})
         return env

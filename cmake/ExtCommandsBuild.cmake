@@ -8,6 +8,12 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${EC_STAGE_DIR}")
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 set(CMAKE_BUILD_RPATH "$ORIGIN")
+if(NOT WIN32)
+    # Search paths go in as RUNPATH, which serves only the object's own needs. An old-style RPATH
+    # of a program would also be searched for the libraries that its modules load by file name,
+    # and the host's companion folder would no longer be the only place companions come from.
+    add_link_options(LINKER:--enable-new-dtags)
+endif()
 
 # The platform's module file suffix: "NAME.tx" is what the dynamic linker looks for.
 set(EC_MODULE_SUFFIX ".tx")

@@ -34,8 +34,9 @@ target_include_directories(ExtCommands INTERFACE
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
 target_link_libraries(ExtCommands INTERFACE Qt5::Core)
 
-# Installed side by side, the libraries find each other.
-set_target_properties(TD_Root TD_Db FxKernel ExtCommands PROPERTIES INSTALL_RPATH "$ORIGIN")
+# Installed side by side, the libraries find each other. The module keeps no search path of its
+# own (src/CMakeLists.txt): a host that loads it has these libraries loaded already.
+set_target_properties(TD_Root TD_Db FxKernel PROPERTIES INSTALL_RPATH "$ORIGIN")
 
 install(TARGETS TD_Root TD_Db FxKernel ExtCommands EXPORT ExtCommandsTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}

@@ -14,7 +14,6 @@
 
 #include <CFxCommandContext.h>
 #include <CFxHostServices.h>
-#include <CFxRegistry.h>
 #include <CFxUI.h>
 #include <CFxUIJsonReader.h>
 #include <CFxUIJsonWriter.h>
@@ -25,8 +24,27 @@
 #include <OdRxDynamicLinker.h>
 #include <OdStaticRxObject.h>
 
+#if !defined(_WIN32)
+#include <RegistryStandIn.h>
+#endif
+
 #include <cstdio>
 #include <utility>
+
+namespace {
+// Modules find the registry stand-in through the environment, as they find the system's
+// registry, so it is chosen before any module is loaded: `file`, or the default, so that a file
+// chosen by whoever started the host does not count. Windows has the registry itself.
+void useRegistryStandIn(const QString& file)
+{
+#if defined(_WIN32)
+    Q_UNUSED(file);
+#else
+    RegistryStandIn::useFile(file.isEmpty() ? RegistryStandIn::defaultFile()
+                                            : QFileInfo(file).absoluteFilePath());
+#endif
+}
+} // namespace
 
 HostSession::HostSession(const HostOptions& options) : m_options(options) {}
 
@@ -46,9 +64,6 @@ void HostSession::start()
     const int* version = m_options.productVersion;
     services->SetProductVersion(version[0], version[1], version[2], version[3]);
     services->SetCurrentLanguageId(m_options.languageId);
-    services->SetCompanionFolder(m_options.companionPath.isEmpty()
-                                     ? programFolder()
-                                     : QFileInfo(m_options.companionPath).absoluteFilePath());
     std::vector<OdString> searchPath;
     for (const QString& folder : m_options.modulePath)
         searchPath.push_back(toOdString(QFileInfo(folder).absoluteFilePath()));
@@ -56,8 +71,7 @@ void HostSession::start()
         searchPath.push_back(toOdString(programFolder()));
     odrxDynamicLinker()->setSearchPath(searchPath);
     services->SetInstallationId(installationId());
-    if (!m_options.registryFile.isEmpty())
-        CFxRegistry::setStandInFile(QFileInfo(m_options.registryFile).absoluteFilePath());
+    useRegistryStandIn(m_options.registryFile);
     loadUiProfile();
     m_urls = std::make_unique<UrlRecorder>();
     m_translations = std::make_unique<TranslationObserver>();

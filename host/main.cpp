@@ -1,4 +1,5 @@
 // quillon-host: the reference Quillon host program.
+#include "CompanionSearch.h"
 #include "EventPrinter.h"
 #include "HostError.h"
 #include "HostOptions.h"
@@ -102,6 +103,7 @@ int main(int argc, char** argv)
     for (int i = 1; i < argc; ++i)
         arguments << QString::fromLocal8Bit(argv[i]);
     HostOptions options;
+    QString companionFolder;
     try {
         QString helpText;
         bool exitEarly = false;
@@ -110,10 +112,18 @@ int main(int argc, char** argv)
             std::fputs(qUtf8Printable(helpText), stdout);
             return 0;
         }
+        companionFolder = CompanionSearch::folder(options.companionPath);
     } catch (const HostError& error) {
         std::fprintf(stderr, "quillon-host: %s\nTry 'quillon-host --help'.\n",
                      qUtf8Printable(error.message()));
         return 2;
+    }
+    // Before anything else: on Linux this may start the program again, with the same arguments.
+    try {
+        CompanionSearch::arrange(companionFolder, argv);
+    } catch (const HostError& error) {
+        std::fprintf(stderr, "quillon-host: %s\n", qUtf8Printable(error.message()));
+        return 1;
     }
     applySystemLocale(options.locale);
     const bool windowMode =

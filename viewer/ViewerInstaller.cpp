@@ -7,7 +7,7 @@
 #include <QSaveFile>
 #include <QSettings>
 
-#include <CFxRegistry.h>
+#include <RegistryStandIn.h>
 #include <VcModelViewerAutomation.h>
 
 #include <utility>
@@ -64,12 +64,12 @@ void ViewerInstaller::writeServiceFile(int version) const
 void ViewerInstaller::writeCurrentVersion() const
 {
     const QString path = m_options.registryFile.isEmpty()
-                             ? CFxRegistry::standInFile()
+                             ? RegistryStandIn::file()
                              : QFileInfo(m_options.registryFile).absoluteFilePath();
     if (!QDir().mkpath(QFileInfo(path).absolutePath()))
         throw ViewerError(QStringLiteral("cannot create the folder of %1").arg(path));
     QSettings registry(path, QSettings::IniFormat);
-    registry.setValue(CFxRegistry::standInGroup(
+    registry.setValue(RegistryStandIn::group(
                           QStringLiteral("HKEY_CLASSES_ROOT\\VcModelViewer.VcstViewer\\CurVer")) +
                           QStringLiteral("/Default"),
                       m_options.currentVersion);

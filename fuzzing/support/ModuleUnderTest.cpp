@@ -39,9 +39,8 @@ void ModuleUnderTest::loadModule()
     static bool loaded = false;
     if (loaded)
         return;
-    const QString stage = QStringLiteral(EC_STAGE_DIR);
-    odrxDynamicLinker()->setSearchPath({toOdString(stage)});
-    GetFxHostServices()->SetCompanionFolder(stage);
+    // The companion libraries come from the library search path that ./fuzz gives the program.
+    odrxDynamicLinker()->setSearchPath({toOdString(QStringLiteral(EC_STAGE_DIR))});
     odrxDynamicLinker()->loadModule(OdString(kModule), false);
     loaded = true;
 }

@@ -3,6 +3,7 @@
 // system-wide settings (the network companions' switch). Each is read exactly as the module
 // reads it, with the sanitizers as the oracle.
 #include "FuzzEnvironment.h"
+#include "common/SystemRegistry.h"
 #include "module/CompanionSettings.h"
 #include "publish/ViewerVersion.h"
 
@@ -10,7 +11,7 @@
 #include <QFile>
 #include <QSettings>
 
-#include <CFxRegistry.h>
+#include <RegistryStandIn.h>
 #include <fuzzer/FuzzedDataProvider.h>
 
 #include <cstddef>
@@ -41,14 +42,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     save(registry, input.ConsumeRandomLengthString(4096));
     save(folder + QStringLiteral("/system/Corvane/Quillon.conf"),
          input.ConsumeRemainingBytesAsString());
-    CFxRegistry::setStandInFile(registry);
+    RegistryStandIn::useFile(registry);
     QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope,
                        folder + QStringLiteral("/system"));
 
     CompanionSettings::networkCompanionsDisabled();
     CompanionSettings::collaborationEnabled();
-    const auto key =
-        CFxRegistry::openKey(QStringLiteral("HKEY_CLASSES_ROOT\\VcModelViewer.VcstViewer\\CurVer"));
-    viewerVersion(key->value(QStringLiteral("Default")).toString());
+    viewerVersion(SystemRegistry::classesRootDefault(L"VcModelViewer.VcstViewer\\CurVer"));
     return 0;
 }

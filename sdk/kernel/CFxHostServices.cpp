@@ -3,8 +3,6 @@
 #include "CFxEditorReactor.h"
 #include "CFxUI.h"
 
-#include <QCoreApplication>
-
 #include <OdEditor.h>
 #include <OdEventLog.h>
 
@@ -47,13 +45,6 @@ QWidget* CFxHostServices::GetMainFrame() const
     return m_mainFrame;
 }
 
-QString CFxHostServices::GetCompanionFolder() const
-{
-    if (!m_companionFolder.isEmpty())
-        return m_companionFolder;
-    return QCoreApplication::instance() ? QCoreApplication::applicationDirPath() : QString();
-}
-
 CFxUI* CFxHostServices::GetUI() const
 {
     return m_ui.get();
@@ -90,11 +81,6 @@ void CFxHostServices::SetCurrentLanguageId(int languageId)
 void CFxHostServices::SetMessageBoxHandler(MessageBoxHandler handler)
 {
     m_messageBoxHandler = std::move(handler);
-}
-
-void CFxHostServices::SetCompanionFolder(const QString& folder)
-{
-    m_companionFolder = folder;
 }
 
 void CFxHostServices::MainFrameCreated(QWidget* mainFrame)

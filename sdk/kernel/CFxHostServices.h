@@ -24,7 +24,6 @@ public:
     CFxDocumentManager* GetDocumentManager() override;
     int FxMessageBox(const CFxString& text, const CFxString& caption, int flags) override;
     QWidget* GetMainFrame() const override;
-    QString GetCompanionFolder() const override;
     CFxUI* GetUI() const override;
     QUuid GetInstallationId() const override;
 
@@ -33,7 +32,6 @@ public:
     void SetCurrentLanguageId(int languageId);
     // Without a handler a message only becomes a message-box event; with one it is also shown.
     void SetMessageBoxHandler(MessageBoxHandler handler);
-    void SetCompanionFolder(const QString& folder);
     void SetUI(std::unique_ptr<CFxUI> ui);
     void SetInstallationId(const QUuid& id);
 
@@ -47,7 +45,6 @@ private:
     int m_languageId = 2;
     CFxDocumentManager m_documents;
     MessageBoxHandler m_messageBoxHandler;
-    QString m_companionFolder;
     std::unique_ptr<CFxUI> m_ui;
     QUuid m_installationId;
     QWidget* m_mainFrame = nullptr;

@@ -30,8 +30,6 @@ public:
     virtual int FxMessageBox(const CFxString& text, const CFxString& caption, int flags) = 0;
     // The host's main window, or null while there is none.
     virtual QWidget* GetMainFrame() const = 0;
-    // The folder where the host keeps its optional companion libraries.
-    virtual QString GetCompanionFolder() const = 0;
     // The host's user-interface model, or null while it has none.
     virtual CFxUI* GetUI() const = 0;
     // The identifier of this installation of the host (handed to the task pane).

@@ -1,10 +1,9 @@
 #include "CompanionSettings.h"
 
 #include "common/HeapText.h"
+#include "common/SystemRegistry.h"
 
 #include <QSettings>
-
-#include <CFxRegistry.h>
 
 bool CompanionSettings::networkCompanionsDisabled()
 {
@@ -17,7 +16,7 @@ bool CompanionSettings::networkCompanionsDisabled()
 
 bool CompanionSettings::collaborationEnabled()
 {
-    const auto key = CFxRegistry::openKey(heapText("HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\"
-                                                   "BfxConnectors\\"));
-    return key->value(heapText("OmniplaneCSEnable"), false).toBool();
+    return SystemRegistry::value(heapText("HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\BfxConnectors\\"),
+                                 heapText("OmniplaneCSEnable"), false)
+        .toBool();
 }

@@ -1,44 +1,32 @@
 #include "DelayLoadLibrary.h"
 
-#include "common/HeapText.h"
-
-#include <QDir>
-
-#include <CFxSystemServices.h>
-
 #include <map>
 #include <memory>
-#include <utility>
 
 DelayLoadLibrary& DelayLoadLibrary::companion(const char* baseName)
 {
     // One per library for the life of the module; the libraries themselves stay loaded.
-    static std::map<QString, std::unique_ptr<DelayLoadLibrary>> imports;
-    // QLibrary keeps the names of the libraries it loaded.
-    const QString name = heapText(baseName);
-    auto& import = imports[name];
+    static std::map<std::string, std::unique_ptr<DelayLoadLibrary>> imports;
+    auto& import = imports[baseName];
     if (!import)
-        import.reset(new DelayLoadLibrary(name));
+        import.reset(new DelayLoadLibrary(baseName));
     return *import;
 }
 
-DelayLoadLibrary::DelayLoadLibrary(QString baseName) : m_baseName(std::move(baseName)) {}
+DelayLoadLibrary::DelayLoadLibrary(const char* baseName) : m_fileName(fileName(baseName)) {}
 
-QString DelayLoadLibrary::fileName() const
+std::string DelayLoadLibrary::fileName(const char* baseName)
 {
-    // The one name the library has on this system. Given the base name alone, QLibrary would
-    // try each prefix and suffix it knows in turn, each a failed load before the right one.
-#ifdef Q_OS_WIN
-    return m_baseName + QStringLiteral(".dll");
+#if defined(_WIN32)
+    return std::string(baseName) + ".dll";
 #else
-    return QStringLiteral("lib") + m_baseName + QStringLiteral(".so");
+    return "lib" + std::string(baseName) + ".so";
 #endif
 }
 
 bool DelayLoadLibrary::load()
 {
-    if (m_library.isLoaded())
-        return true;
-    m_library.setFileName(QDir(GetFxSystemServices()->GetCompanionFolder()).filePath(fileName()));
-    return m_library.load();
+    if (!m_handle)
+        m_handle = SystemLibrary::load(m_fileName);
+    return m_handle != nullptr;
 }

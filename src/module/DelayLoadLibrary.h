@@ -1,12 +1,13 @@
 #pragma once
 
-#include <QLibrary>
-#include <QString>
+#include "SystemLibrary.h"
+
+#include <string>
 
 // A companion library reached the way a delay-loaded import is: nothing happens at module
-// load; the library is looked for in the host's companion folder when it is first needed. A
-// library that is not there yields no entry points, and the step that needed it does nothing.
-// The library is never unloaded.
+// load; the library is loaded by its file name through the system's own search when it is
+// first needed. A library that is not found yields no entry points, and the step that needed it
+// does nothing. The library is never unloaded.
 class DelayLoadLibrary
 {
 public:
@@ -19,14 +20,16 @@ public:
     template <class Function>
     Function resolve(const char* symbol)
     {
-        return load() ? reinterpret_cast<Function>(m_library.resolve(symbol)) : nullptr;
+        return load() ? reinterpret_cast<Function>(SystemLibrary::entry(m_handle, symbol))
+                      : nullptr;
     }
 
 private:
-    explicit DelayLoadLibrary(QString baseName);
+    explicit DelayLoadLibrary(const char* baseName);
 
-    QString fileName() const;
+    // The one name the library has on this system: "TarnTaskPane.dll", "libTarnTaskPane.so".
+    static std::string fileName(const char* baseName);
 
-    QString m_baseName;
-    QLibrary m_library;
+    std::string m_fileName;
+    void* m_handle = nullptr;
 };

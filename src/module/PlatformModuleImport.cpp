@@ -3,15 +3,15 @@
 #include <QString>
 
 #include <OdRxDynamicLinker.h>
-#include <OdSharedLibrary.h>
 
-void* PlatformModuleImport::resolve(const char* module, const char* symbol)
+SystemLibrary::Entry PlatformModuleImport::resolve(const char* module, const char* symbol)
 {
     const OdRxModulePtr loaded =
         odrxDynamicLinker()->getModule(toOdString(QString::fromLatin1(module)));
     if (!loaded)
         return nullptr;
-    return OdSharedLibrary::resolve(static_cast<OdModuleHandle>(loaded->sysData()), symbol);
+    // The module's system data is its library's handle, as the system gave it to the linker.
+    return SystemLibrary::entry(loaded->sysData(), symbol);
 }
 
 bool PlatformModuleImport::call(const char* module, const char* symbol)

@@ -3,6 +3,7 @@
 #include "ReferencedDrawingCopier.h"
 #include "ViewerVersion.h"
 #include "common/HeapText.h"
+#include "common/SystemRegistry.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -10,7 +11,6 @@
 
 #include <CFxCommand.h>
 #include <CFxDocument.h>
-#include <CFxRegistry.h>
 #include <CFxSystemServices.h>
 #include <OdDbDatabase.h>
 #include <OdRxSystemServices.h>
@@ -58,9 +58,7 @@ OdDbDatabase* ViewcastPublisher::activeDatabase()
 
 int ViewcastPublisher::registeredVersion()
 {
-    const auto key =
-        CFxRegistry::openKey(heapText("HKEY_CLASSES_ROOT\\VcModelViewer.VcstViewer\\CurVer"));
-    return viewerVersion(key->value(heapText("Default")).toString());
+    return viewerVersion(SystemRegistry::classesRootDefault(L"VcModelViewer.VcstViewer\\CurVer"));
 }
 
 bool ViewcastPublisher::findServer(int newest)

@@ -16,10 +16,10 @@
 
 #include <CFxCommandContext.h>
 #include <CFxHostServices.h>
-#include <CFxRegistry.h>
 #include <OdEdCommandStack.h>
 #include <OdRxDynamicLinker.h>
 #include <OdSharedLibrary.h>
+#include <RegistryStandIn.h>
 
 #include <memory>
 
@@ -64,8 +64,8 @@ class CompanionWidgetsTest : public ::testing::Test
 protected:
     void SetUp() override
     {
-        CFxRegistry::setStandInFile(m_registry.filePath(QStringLiteral("registry.ini")));
-        QSettings(CFxRegistry::standInFile(), QSettings::IniFormat)
+        RegistryStandIn::useFile(m_registry.filePath(QStringLiteral("registry.ini")));
+        QSettings(RegistryStandIn::file(), QSettings::IniFormat)
             .setValue(QStringLiteral("HKEY_LOCAL_MACHINE/SOFTWARE/Corvane/BfxConnectors/"
                                      "OmniplaneCSEnable"),
                       true);
@@ -83,7 +83,7 @@ protected:
         if (moduleLoaded(kOmniplaneModule))
             odrxDynamicLinker()->unloadModule(kOmniplaneModule);
         EXPECT_FALSE(moduleLoaded(kForgeportModule));
-        CFxRegistry::setStandInFile(QString());
+        RegistryStandIn::useFile(QString());
     }
 
     IsolatedHome m_home;
@@ -185,7 +185,7 @@ TEST_F(CompanionWidgetsTest, SwitchesChangedBetweenTwoMainWindowsApplyToTheNextO
 {
     const auto callsOfWindow = [this](bool collaboration, const QString& networkDisabled) {
         GetFxHostServices()->MainFrameDestroyed(m_window.get());
-        QSettings(CFxRegistry::standInFile(), QSettings::IniFormat)
+        QSettings(RegistryStandIn::file(), QSettings::IniFormat)
             .setValue(QStringLiteral("HKEY_LOCAL_MACHINE/SOFTWARE/Corvane/BfxConnectors/"
                                      "OmniplaneCSEnable"),
                       collaboration);

@@ -74,13 +74,16 @@ protected:
 
     HostResult run(const QString& script, const QStringList& extra = {})
     {
-        HostResult result =
-            m_host.runScript(script, QStringList{"--module-path", m_root.filePath("modules"),
-                                                 "--companion-path", m_root.filePath("companions"),
-                                                 "--registry", m_root.filePath("registry.ini")} +
-                                         extra);
+        HostResult result = m_host.runScript(script, arguments() + extra);
         EXPECT_EQ(result.exitCode, 0) << result.standardError.toStdString();
         return result;
+    }
+
+    QStringList arguments() const
+    {
+        return {"--module-path",    m_root.filePath("modules"),
+                "--companion-path", m_root.filePath("companions"),
+                "--registry",       m_root.filePath("registry.ini")};
     }
 
     const QStringList m_all{"QuillonQnMurmurConnector", "QuillonOmniplaneConnector",
@@ -184,6 +187,91 @@ INSTANTIATE_TEST_SUITE_P(
         SwitchCase{"CollaborationAbsentNetworkTrue", std::nullopt, QString("true"), kNetworkOn},
         SwitchCase{"CollaborationTrueNetworkYesPlease", true, QString("yes please"),
                    "addiQuestionView addQNOmniplaneView addXmlTodxf addTaskPane removeXmlTodxf"}));
+
+// The companion folder alone is searched: the module here is the stage's, with every companion
+// library lying beside it, and only those in the companion folder are called.
+struct FolderCase
+{
+    const char* name;
+    QStringList installed;
+};
+
+// How failures and CTest name the case.
+void PrintTo(const FolderCase& each, std::ostream* out)
+{
+    *out << each.name;
+}
+
+class CompanionFolder : public CompanionsHost, public ::testing::WithParamInterface<FolderCase>
+{};
+
+TEST_P(CompanionFolder, OnlyTheCompanionsInItAreCalledThoughAllLieBesideTheModule)
+{
+    install(GetParam().installed);
+    const QString stage = HostProcess::stageFolder();
+    const HostResult result = m_host.runScript(
+        "mainframe create; Home; Community; open \"" + stage + "/demo/plan.dxf\"; VIEWCAST",
+        {"--module-path", stage, "--companion-path", m_root.filePath("companions"), "--registry",
+         m_root.filePath("registry.ini")});
+    ASSERT_EQ(result.exitCode, 0) << result.standardError.toStdString();
+    QStringList called = result.events.values("companion-call", "library");
+    called.removeDuplicates();
+    called.removeAll("QNTForgeportConnector"); // a platform module, from the module folder
+    called.sort();
+    QStringList installed = GetParam().installed;
+    installed.sort();
+    EXPECT_EQ(called, installed);
+    // The module works all the same; what the crash-report service records is there only with it.
+    EXPECT_EQ(result.events.values("command-added", "name").mid(0, 3),
+              QStringList({"_Home", "_Community", "_VIEWCAST"}));
+    EXPECT_EQ(result.events.timeline({"command-ended result"}),
+              QStringList({"command-ended 5100", "command-ended 5100", "command-ended 5100"}));
+    EXPECT_EQ(QFile::exists(m_host.folders().configHome() + "/Corvane/CrashReport.conf"),
+              installed.contains("TarnCrashReportSendService"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Installations, CompanionFolder,
+    ::testing::Values(FolderCase{"None", {}}, FolderCase{"TaskPaneOnly", {"TarnTaskPane"}},
+                      FolderCase{"QuestionViewAndCrashReport",
+                                 {"QuillonQnMurmurConnector", "TarnCrashReportSendService"}},
+                      FolderCase{"EveryLibrary",
+                                 {"QuillonQnMurmurConnector", "TarnCrashReportSendService",
+                                  "TarnTaskPane"}}));
+
+// The host arranges the library search for itself: unless the companion folder leads
+// LD_LIBRARY_PATH already, it starts itself again, once, with the folder put first, and the
+// loader looks for a companion's bare file name there. The second start keeps the arguments, the
+// standard streams and the exit code.
+TEST_F(CompanionsHost, StartsItselfAgainWithTheCompanionFolderFirstOnTheSearchPath)
+{
+    install({"TarnTaskPane"});
+    const QString companions = m_root.filePath("companions");
+    const auto starts = [](const HostResult& result) {
+        return result.standardError.count("transferring control: ");
+    };
+    m_host.setEnvironment("LD_DEBUG", "libs");
+
+    const HostResult restarted = m_host.runScript("mainframe create; load Nowhere", arguments());
+    EXPECT_EQ(starts(restarted), 2);
+    EXPECT_EQ(restarted.exitCode, 1);
+    EXPECT_TRUE(restarted.standardError.contains("quillon-host: line 1 (load Nowhere)"))
+        << qPrintable(restarted.standardError.right(2000));
+    EXPECT_EQ(restarted.events.values("companion-call", "call"), QStringList({"addTaskPane"}));
+    EXPECT_TRUE(
+        restarted.standardError.contains("search path=" + companions + "\t\t(LD_LIBRARY_PATH)"));
+    EXPECT_TRUE(
+        restarted.standardError.contains("trying file=" + companions + "/libTarnTaskPane.so"));
+
+    m_host.setEnvironment("LD_LIBRARY_PATH", companions + "/:/nowhere");
+    const HostResult asStarted = run("mainframe create");
+    EXPECT_EQ(starts(asStarted), 1);
+    EXPECT_EQ(asStarted.events.values("companion-call", "call"),
+              restarted.events.values("companion-call", "call"));
+
+    m_host.setEnvironment("LD_LIBRARY_PATH", "/nowhere:" + companions);
+    EXPECT_EQ(starts(run("mainframe create")), 2);
+}
 
 TEST_F(CompanionsHost, WithoutAnyCompanionTheRestOfTheMainWindowWorkStillHappens)
 {

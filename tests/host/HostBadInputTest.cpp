@@ -92,6 +92,18 @@ TEST_F(HostBadInput, AnUnknownOptionStopsBeforeAnythingStarts)
         << qPrintable(result.standardError);
 }
 
+TEST_F(HostBadInput, ACompanionFolderThatNoSearchPathCanNameStopsBeforeAnythingStarts)
+{
+    const HostResult result = host.run({"--companion-path", "a:b", "-c", "Home"});
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_TRUE(result.events.all().isEmpty());
+    EXPECT_TRUE(result.standardError.startsWith(
+        "quillon-host: the companion folder " + host.home() +
+        "/a:b holds ':', which the library search path (LD_LIBRARY_PATH) cannot name\n"
+        "Try 'quillon-host --help'.\n"))
+        << qPrintable(result.standardError);
+}
+
 // A script or a profile that is not text, or too large to be one, is refused before anything of
 // it is used, with the file and the reason named: none of its statements runs. FILE in the
 // arguments stands for the case's file, written into the test's home.

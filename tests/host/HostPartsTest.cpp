@@ -1,5 +1,7 @@
-// The host's parts: splitting a script into statements and words, the command line, and how
-// an event is written, as one JSON object per line or one readable line.
+// The host's parts: splitting a script into statements and words, the command line, the library
+// search path it starts itself with, and how an event is written, as one JSON object per line or
+// one readable line.
+#include "CompanionSearch.h"
 #include "EventPrinter.h"
 #include "EventRecorder.h"
 #include "HostError.h"
@@ -9,6 +11,7 @@
 #include "TranslationObserver.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QJsonArray>
 #include <QTranslator>
 
@@ -41,6 +44,22 @@ QString refusal(const QStringList& arguments)
         return error.message();
     }
     return QStringLiteral("<accepted>");
+}
+
+QString arranged(const QByteArray& current)
+{
+    const auto searchPath =
+        CompanionSearch::arrangedSearchPath(current, QStringLiteral("/opt/quillon/companions"));
+    return searchPath ? QString::fromUtf8(*searchPath) : QStringLiteral("<as it is>");
+}
+
+QString companionFolderRefusal(const QString& companionPath)
+{
+    try {
+        return QStringLiteral("<accepted> ") + CompanionSearch::folder(companionPath);
+    } catch (const HostError& error) {
+        return error.message();
+    }
 }
 } // namespace
 
@@ -88,6 +107,37 @@ TEST(HostOptionsTest, RefusesBadArgumentsWithAClearMessage)
               "--product-version takes a whole number, not '99999999999'");
     EXPECT_EQ(refusal({"a.qs", "b.qs"}), "one script at most, not a.qs b.qs");
     EXPECT_EQ(refusal({"a.qs", "-c", "Home"}), "give either a script file or -c TEXT, not both");
+}
+
+// The search path the host starts itself again with: the companion folder first and the rest as
+// it was; nothing to do when the folder leads already, however it is spelt there.
+TEST(CompanionSearchTest, PutsTheCompanionFolderFirstUnlessItLeadsAlready)
+{
+    // No empty part: the loader would take it for the current folder.
+    EXPECT_EQ(arranged(""), "/opt/quillon/companions");
+    EXPECT_EQ(arranged("/usr/local/lib:/opt/qt"), "/opt/quillon/companions:/usr/local/lib:/opt/qt");
+    EXPECT_EQ(arranged("/opt/qt:/opt/quillon/companions"),
+              "/opt/quillon/companions:/opt/qt:/opt/quillon/companions");
+    EXPECT_EQ(arranged("/opt/quillon"), "/opt/quillon/companions:/opt/quillon");
+    EXPECT_EQ(arranged("/opt/quillon/companions/extra"),
+              "/opt/quillon/companions:/opt/quillon/companions/extra");
+    for (const char* leading : {"/opt/quillon/companions", "/opt/quillon/companions/:/opt/qt",
+                                "/opt/quillon//companions:/opt/qt", "/opt/quillon/companions;/x"})
+        EXPECT_EQ(arranged(leading), "<as it is>") << leading;
+}
+
+TEST(CompanionSearchTest, TakesTheFolderFromTheCurrentOneAndRefusesWhatASearchPathCannotName)
+{
+    EXPECT_EQ(companionFolderRefusal("some/where/../companions"),
+              "<accepted> " + QDir::currentPath() + "/some/companions");
+    EXPECT_EQ(companionFolderRefusal(""), "<accepted> " + QCoreApplication::applicationDirPath());
+    for (const char* special : {":", ";", "$"}) {
+        const QString folder = QStringLiteral("/tmp/a%1b").arg(special);
+        EXPECT_EQ(companionFolderRefusal(folder),
+                  QStringLiteral("the companion folder %1 holds '%2', which the library search "
+                                 "path (LD_LIBRARY_PATH) cannot name")
+                      .arg(folder, special));
+    }
 }
 
 TEST(EventPrinterTest, WritesTheFieldsInTheirOrderAsJsonOrAsReadableText)

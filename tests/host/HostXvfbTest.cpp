@@ -41,7 +41,6 @@ protected:
     {
         HostOptions options;
         options.modulePath = QStringList{QStringLiteral(EC_STAGE_DIR)};
-        options.companionPath = QStringLiteral(EC_STAGE_DIR);
         options.registryFile = m_home.path() + QStringLiteral("/registry.ini");
         options.uiProfile = QStringLiteral(EC_SOURCE_DIR "/host/profiles/default.json");
         m_session = std::make_unique<HostSession>(options);

@@ -5,8 +5,6 @@
 #include "LoadedModule.h"
 #include "TestPrinters.h"
 
-#include <QTemporaryDir>
-
 #include <gtest/gtest.h>
 
 #include <CFxHostServices.h>
@@ -135,15 +133,4 @@ TEST_F(CrashReportHook, ASecondStartCreatesNoSecondReactor)
     openDocument();
     // No second look at the recorded version, and one reactor that checks once.
     EXPECT_EQ(calls(), QStringList({"initialCheckOnInstall", "setRegVersion"}));
-}
-
-TEST_F(CrashReportHook, WithoutTheCompanionLibraryTheModuleStartsAndNoCheckRuns)
-{
-    QTemporaryDir companionFolder;
-    GetFxHostServices()->SetCompanionFolder(companionFolder.path());
-    start({2017, 0, 9, 3});
-    openDocument();
-    EXPECT_EQ(recorder.events().count("command-added"), 3);
-    EXPECT_EQ(recorder.events().count("companion-call"), 0);
-    EXPECT_EQ(recordedVersion(), std::nullopt);
 }

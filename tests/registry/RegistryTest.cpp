@@ -1,23 +1,47 @@
-// The registry seam: values written into the stand-in file under a key path are what a module
-// reads back from that key, the way the Windows registry would give them.
+// The registry where the system has none: values written into the stand-in file under a key
+// path are what the module reads back from that key (through its own registry code, as it
+// reads them outside Windows), the way the Windows registry would give them.
 #include "IsolatedHome.h"
 #include "TestPrinters.h"
+#include "common/SystemRegistry.h"
 
-#include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QVariant>
 
 #include <gtest/gtest.h>
 
-#include <CFxRegistry.h>
+#include <RegistryStandIn.h>
+
+namespace {
+// A stand-in file of the test's own, chosen for this process as the host chooses it.
+class StandInFile
+{
+public:
+    StandInFile() { RegistryStandIn::useFile(path()); }
+    ~StandInFile() { RegistryStandIn::useFile(QString()); }
+
+    QString path() const { return m_folder.filePath(QStringLiteral("registry.ini")); }
+    // What an installer writes, by the file's own group names.
+    void write(const QString& group, const QVariant& value) const
+    {
+        QSettings(path(), QSettings::IniFormat).setValue(group, value);
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+const QString kConnectors =
+    QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\BfxConnectors\\");
+const wchar_t kCurrentVersion[] = L"VcModelViewer.VcstViewer\\CurVer";
+} // namespace
 
 struct KeyPathCase
 {
     const char* name;
     const char* keyPath;
-    const char* nativePath;
-    const char* standInGroup;
+    const char* group;
 };
 
 // How failures and CTest name the case.
@@ -29,30 +53,23 @@ void PrintTo(const KeyPathCase& each, std::ostream* out)
 class RegistryKeyPath : public testing::TestWithParam<KeyPathCase>
 {};
 
-// The keys the module reads, spelt as callers spell them: the same key for the registry
-// (QSettings' native path on Windows) and for the stand-in's group.
-TEST_P(RegistryKeyPath, NamesTheSameKeyOnWindowsAndInTheStandIn)
+// The keys the module reads, spelt as callers spell them, name one group of the file.
+TEST_P(RegistryKeyPath, NamesOneGroupOfTheFile)
 {
-    const KeyPathCase& key = GetParam();
-    EXPECT_EQ(CFxRegistry::nativeKeyPath(QString::fromLatin1(key.keyPath)),
-              QString::fromLatin1(key.nativePath));
-    EXPECT_EQ(CFxRegistry::standInGroup(QString::fromLatin1(key.keyPath)),
-              QString::fromLatin1(key.standInGroup));
+    EXPECT_EQ(RegistryStandIn::group(QString::fromLatin1(GetParam().keyPath)),
+              QString::fromLatin1(GetParam().group));
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Keys, RegistryKeyPath,
     testing::Values(KeyPathCase{"TrailingSeparator",
                                 "HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\BfxConnectors\\",
-                                "HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\BfxConnectors",
                                 "HKEY_LOCAL_MACHINE/SOFTWARE/Corvane/BfxConnectors"},
                     KeyPathCase{"DotsInAPart",
-                                "HKEY_CLASSES_ROOT\\VcModelViewer.VcstViewer\\CurVer",
                                 "HKEY_CLASSES_ROOT\\VcModelViewer.VcstViewer\\CurVer",
                                 "HKEY_CLASSES_ROOT/VcModelViewer.VcstViewer/CurVer"},
                     KeyPathCase{"MixedAndDoubledSeparators",
                                 "HKEY_LOCAL_MACHINE/SOFTWARE//Corvane\\\\BfxConnectors/",
-                                "HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\BfxConnectors",
                                 "HKEY_LOCAL_MACHINE/SOFTWARE/Corvane/BfxConnectors"}));
 
 // What an installer writes on Windows, as the registry hands it to QSettings there: REG_DWORD
@@ -63,18 +80,14 @@ class RegistrySwitchValue : public testing::TestWithParam<QVariant>
 
 TEST_P(RegistrySwitchValue, ReadsAsTheRegistrysOwnValueReads)
 {
-    QTemporaryDir folder;
-    const QString file = folder.filePath(QStringLiteral("registry.ini"));
-    CFxRegistry::setStandInFile(file);
-    QSettings(file, QSettings::IniFormat)
-        .setValue(
-            QStringLiteral("HKEY_LOCAL_MACHINE/SOFTWARE/Corvane/BfxConnectors/OmniplaneCSEnable"),
-            GetParam());
-    const auto key = CFxRegistry::openKey(
-        QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\BfxConnectors\\"));
-    EXPECT_EQ(key->value(QStringLiteral("OmniplaneCSEnable"), false).toBool(), GetParam().toBool())
+    const StandInFile file;
+    file.write(
+        QStringLiteral("HKEY_LOCAL_MACHINE/SOFTWARE/Corvane/BfxConnectors/OmniplaneCSEnable"),
+        GetParam());
+    EXPECT_EQ(
+        SystemRegistry::value(kConnectors, QStringLiteral("OmniplaneCSEnable"), false).toBool(),
+        GetParam().toBool())
         << GetParam().typeName() << " " << qPrintable(GetParam().toString());
-    CFxRegistry::setStandInFile(QString());
 }
 
 INSTANTIATE_TEST_SUITE_P(Types, RegistrySwitchValue,
@@ -87,52 +100,46 @@ INSTANTIATE_TEST_SUITE_P(Types, RegistrySwitchValue,
 // The registry finds a key whatever the letter case of its parts; so does the stand-in.
 TEST(Registry, KeysAreFoundInAnyLetterCase)
 {
-    QTemporaryDir folder;
-    const QString file = folder.filePath(QStringLiteral("registry.ini"));
-    CFxRegistry::setStandInFile(file);
-    QSettings(file, QSettings::IniFormat)
-        .setValue(QStringLiteral("HKEY_CLASSES_ROOT/vcmodelviewer.VCSTVIEWER/curver/Default"),
-                  QStringLiteral("VcModelViewer.VcstViewer.12"));
-    EXPECT_EQ(
-        CFxRegistry::openKey(QStringLiteral("HKEY_CLASSES_ROOT\\VcModelViewer.VcstViewer\\CurVer"))
-            ->value(QStringLiteral("Default"))
-            .toString(),
-        QStringLiteral("VcModelViewer.VcstViewer.12"));
-    CFxRegistry::setStandInFile(QString());
+    const StandInFile file;
+    file.write(QStringLiteral("HKEY_CLASSES_ROOT/vcmodelviewer.VCSTVIEWER/curver/Default"),
+               QStringLiteral("VcModelViewer.VcstViewer.12"));
+    file.write(
+        QStringLiteral("hkey_local_machine/Software/CORVANE/bfxconnectors/OmniplaneCSEnable"), 1);
+    EXPECT_EQ(SystemRegistry::classesRootDefault(kCurrentVersion),
+              QStringLiteral("VcModelViewer.VcstViewer.12"));
+    EXPECT_TRUE(
+        SystemRegistry::value(kConnectors, QStringLiteral("OmniplaneCSEnable"), false).toBool());
 }
 
-TEST(Registry, ValuesWrittenByAnInstallerAreReadBackThroughTheKey)
+TEST(Registry, WhatIsNotThereReadsAsMissing)
 {
-    QTemporaryDir folder;
-    const QString file = folder.filePath(QStringLiteral("registry.ini"));
-    CFxRegistry::setStandInFile(file);
+    const StandInFile file;
+    file.write(QStringLiteral("HKEY_CLASSES_ROOT/VcModelViewer.VcstViewer/Other/Default"),
+               QStringLiteral("VcModelViewer.VcstViewer.12"));
+    file.write(QStringLiteral("HKEY_LOCAL_MACHINE/SOFTWARE/Corvane/BfxConnectors/Other"), true);
+    EXPECT_TRUE(SystemRegistry::classesRootDefault(kCurrentVersion).isNull());
+    EXPECT_EQ(SystemRegistry::value(kConnectors, QStringLiteral("OmniplaneCSEnable"), 7), 7);
+    EXPECT_EQ(SystemRegistry::value(QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Nobody"),
+                                    QStringLiteral("Other"), QVariant()),
+              QVariant());
+}
+
+// The file is the process's: chosen before readers come, found by every reader, and without a
+// choice the one in the user's configuration.
+TEST(Registry, ReadersFindTheFileChosenForTheProcessOrTheUsersOwn)
+{
+    const IsolatedHome home;
+    const QString usersOwn = home.folders().configHome() + QStringLiteral("/Corvane/registry.ini");
+    EXPECT_EQ(RegistryStandIn::file(), usersOwn);
+    QSettings(usersOwn, QSettings::IniFormat)
+        .setValue(QStringLiteral("HKEY_CLASSES_ROOT/VcModelViewer.VcstViewer/CurVer/Default"),
+                  QStringLiteral("VcModelViewer.VcstViewer.10"));
+    EXPECT_EQ(SystemRegistry::classesRootDefault(kCurrentVersion),
+              QStringLiteral("VcModelViewer.VcstViewer.10"));
     {
-        QSettings installer(file, QSettings::IniFormat);
-        installer.setValue(
-            QStringLiteral("HKEY_LOCAL_MACHINE/SOFTWARE/Corvane/BfxConnectors/OmniplaneCSEnable"),
-            true);
-        installer.setValue(
-            QStringLiteral("HKEY_CLASSES_ROOT/VcModelViewer.VcstViewer/CurVer/Default"),
-            QStringLiteral("VcModelViewer.VcstViewer.12"));
+        const StandInFile chosen;
+        EXPECT_EQ(RegistryStandIn::file(), chosen.path());
+        EXPECT_TRUE(SystemRegistry::classesRootDefault(kCurrentVersion).isNull());
     }
-    EXPECT_TRUE(CFxRegistry::openKey(
-                    QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Corvane\\BfxConnectors\\"))
-                    ->value(QStringLiteral("OmniplaneCSEnable"))
-                    .toBool());
-    EXPECT_EQ(
-        CFxRegistry::openKey(QStringLiteral("HKEY_CLASSES_ROOT\\VcModelViewer.VcstViewer\\CurVer"))
-            ->value(QStringLiteral("Default"))
-            .toString(),
-        QStringLiteral("VcModelViewer.VcstViewer.12"));
-    const auto missing =
-        CFxRegistry::openKey(QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Nobody"));
-    EXPECT_FALSE(missing->contains(QStringLiteral("OmniplaneCSEnable")));
-    CFxRegistry::setStandInFile(QString());
-}
-
-TEST(Registry, WithoutAChoiceTheStandInLivesInTheUsersConfiguration)
-{
-    IsolatedHome home;
-    EXPECT_EQ(CFxRegistry::standInFile(),
-              home.folders().configHome() + QStringLiteral("/Corvane/registry.ini"));
+    EXPECT_EQ(RegistryStandIn::file(), usersOwn);
 }

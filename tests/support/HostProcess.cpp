@@ -3,6 +3,21 @@
 #include <QJsonDocument>
 #include <QProcess>
 
+namespace {
+// CTest starts this program with the stage folder first on the library search path, standing in
+// for the host; a host started by a user has it arranged by nothing but its own options.
+void dropStageFromSearchPath(QProcessEnvironment& environment)
+{
+    const QString name = QStringLiteral("LD_LIBRARY_PATH");
+    QStringList folders = environment.value(name).split(QLatin1Char(':'), Qt::SkipEmptyParts);
+    folders.removeAll(HostProcess::stageFolder());
+    if (folders.isEmpty())
+        environment.remove(name);
+    else
+        environment.insert(name, folders.join(QLatin1Char(':')));
+}
+} // namespace
+
 HostProcess::HostProcess()
     : m_folders(m_temporary.path()), m_environment(QProcessEnvironment::systemEnvironment())
 {
@@ -11,6 +26,7 @@ HostProcess::HostProcess()
     m_environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     // No session bus unless a test starts one of its own.
     m_environment.remove(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"));
+    dropStageFromSearchPath(m_environment);
 }
 
 HostResult HostProcess::runReadable(const QStringList& arguments, int timeoutMs)

@@ -1,13 +1,10 @@
 #include "LoadedModule.h"
 
-#include <CFxHostServices.h>
 #include <OdRxDynamicLinker.h>
 
 void LoadedModule::useFolder(const QString& folder)
 {
-    const QString chosen = folder.isEmpty() ? stageFolder() : folder;
-    odrxDynamicLinker()->setSearchPath({toOdString(chosen)});
-    GetFxHostServices()->SetCompanionFolder(chosen);
+    odrxDynamicLinker()->setSearchPath({toOdString(folder.isEmpty() ? stageFolder() : folder)});
 }
 
 LoadedModule::LoadedModule(const QString& name) : m_name(name)

@@ -5,7 +5,9 @@
 class OdRxModule;
 
 // A module loaded through the platform's dynamic linker for the length of a test, from the
-// build's stage folder (modules and companion libraries as installed beside the program).
+// build's stage folder (modules as installed beside the program). The companion libraries that
+// the module loads by file name come from the test program's library search path, which CTest
+// starts with the stage folder.
 class LoadedModule
 {
 public:
@@ -19,7 +21,7 @@ public:
     // Unloads now (also done on destruction); returns whether the linker unloaded it.
     bool unload();
 
-    // Points the dynamic linker and the companion folder at `folder` (default: the stage).
+    // Points the dynamic linker at `folder` (default: the stage).
     static void useFolder(const QString& folder = QString());
     static QString stageFolder() { return QStringLiteral(EC_STAGE_DIR); }
 
