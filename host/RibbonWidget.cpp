@@ -102,14 +102,14 @@ std::vector<const CFxUIRibbonTab*> RibbonWidget::shownTabs(const CFxUI& ui)
     if (!workspace)
         return tabs;
     const CFxUIGroup* main = mainGroup(ui);
-    QSet<QString> seen;
+    // Every listing of one identifier, in any letter case, leads to the same held tab.
+    QSet<const CFxUIRibbonTab*> seen;
     for (const CFxUIRibbonTab* listed : workspace->GetRibbonTabs()) {
-        const QString key = listed->GetIdentifier().toQString().toLower();
-        if (seen.contains(key))
+        const CFxUIRibbonTab* held = heldTab(ui, main, listed->GetIdentifier());
+        if (!held || seen.contains(held))
             continue;
-        seen.insert(key);
-        if (const CFxUIRibbonTab* held = heldTab(ui, main, listed->GetIdentifier()))
-            tabs.push_back(held);
+        seen.insert(held);
+        tabs.push_back(held);
     }
     return tabs;
 }

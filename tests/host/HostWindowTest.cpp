@@ -4,6 +4,7 @@
 #include "DrawingScene.h"
 #include "RibbonWidget.h"
 #include "TestPrinters.h"
+#include "UiSignature.h"
 
 #include <QFile>
 #include <QMenu>
@@ -197,6 +198,33 @@ TEST(HostRibbon, RedrawsOnlyTheTabThatChanged)
     row->GetButtons().Append(model.button(CFxUIRibbonButton::kCommand, QStringLiteral("ID_C")));
     tabs->setCurrentIndex(0);
     EXPECT_NE(ribbon.findChild<QToolButton*>(QStringLiteral("ID_C")), nullptr);
+}
+
+TEST(HostUiSignature, TellsEveryCharacterOfAText)
+{
+    RibbonModel model;
+    CFxUIRibbonRow* row = model.addRow(model.addTab(QStringLiteral("T"), QStringLiteral("T")));
+    CFxUIRibbonButton* button = model.button(CFxUIRibbonButton::kCommand, QStringLiteral("B"));
+    row->GetButtons().Append(button);
+    // Texts of every length around the steps the fingerprint takes, changed at every place.
+    for (int length = 1; length <= 9; ++length) {
+        const QString text(length, QLatin1Char('a'));
+        button->SetText(CFxString(text));
+        const quint64 before = UiSignature::ofTab(*model.workspace->GetRibbonTabs().GetAt(0));
+        for (int at = 0; at < length; ++at) {
+            QString changed = text;
+            changed[at] = QLatin1Char('b');
+            button->SetText(CFxString(changed));
+            EXPECT_NE(UiSignature::ofTab(*model.workspace->GetRibbonTabs().GetAt(0)), before)
+                << "length " << length << ", character " << at;
+        }
+        button->SetText(CFxString(text + QLatin1Char('a')));
+        EXPECT_NE(UiSignature::ofTab(*model.workspace->GetRibbonTabs().GetAt(0)), before)
+            << "one character longer, length " << length;
+        button->SetText(CFxString(text));
+        EXPECT_EQ(UiSignature::ofTab(*model.workspace->GetRibbonTabs().GetAt(0)), before)
+            << "the same text again, length " << length;
+    }
 }
 
 TEST(HostRibbon, SplitButtonsNestedVeryDeepAreShownLevelByLevel)

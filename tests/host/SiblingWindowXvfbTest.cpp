@@ -21,7 +21,7 @@ const QStringList kProfileTabs{"Home", "Insert", "View"};
 const QStringList kLoaded{"Sync", "Vaultline"};
 const QStringList kVaultlineEntries{"Check In", "Check Out", "More"};
 
-class SiblingOnX : public HostWindowOnX
+class HostWindowWithSiblingOnX : public HostWindowOnX
 {
 protected:
     QStringList startModules() const override
@@ -107,7 +107,7 @@ private:
 };
 } // namespace
 
-TEST_F(SiblingOnX, ButtonsLoadedWhileTheWindowStandsAreShown)
+TEST_F(HostWindowWithSiblingOnX, ButtonsLoadedWhileTheWindowStandsAreShown)
 {
     EXPECT_EQ(buttonsShownOn("Add-Ins"), QStringList()) << "the module's panel, still empty";
     load();
@@ -120,7 +120,7 @@ TEST_F(SiblingOnX, ButtonsLoadedWhileTheWindowStandsAreShown)
     EXPECT_EQ(buttonsShownOn("Add-Ins"), QStringList({"Vaultline"}));
 }
 
-TEST_F(SiblingOnX, EntriesHiddenAndShownAgainFollowTheModel)
+TEST_F(HostWindowWithSiblingOnX, EntriesHiddenAndShownAgainFollowTheModel)
 {
     load();
     ASSERT_EQ(buttonsShownOn("Add-Ins"), kLoaded);
@@ -132,7 +132,7 @@ TEST_F(SiblingOnX, EntriesHiddenAndShownAgainFollowTheModel)
     EXPECT_EQ(entriesOf("ID_VAULTLINE_ITEM"), kVaultlineEntries);
 }
 
-TEST_F(SiblingOnX, ButtonsLoadedAgainAfterTheLastWasUnloadedAreShown)
+TEST_F(HostWindowWithSiblingOnX, ButtonsLoadedAgainAfterTheLastWasUnloadedAreShown)
 {
     load();
     ASSERT_EQ(buttonsShownOn("Add-Ins"), kLoaded);
