@@ -13,79 +13,62 @@
 #include <benchmark/benchmark.h>
 
 namespace {
-// A row of N buttons loaded, the event loop's turn (the window follows the model), then the
-// buttons unloaded and another turn: the way a sibling that loads its buttons in one command
-// drives the window. "per_call" is the time of one load or unload, the redraws included.
+// A row of N buttons loaded into the Add-Ins row and unloaded again, as often as the benchmark
+// asks, with the host's main window created by the host's own session and shown; after each
+// half of the cycle, `afterLoad` and `afterUnload` let the window follow. "per_call" is the
+// time of one load or unload, what the window does included.
+template <class AfterLoad, class AfterUnload>
+void loadAndUnloadWithWindow(benchmark::State& state, AfterLoad afterLoad, AfterUnload afterUnload)
+{
+    const int count = static_cast<int>(state.range(0));
+    RibbonHost host;
+    HostSession session{HostOptions()};
+    session.setWindowHandlers([](const QString&) {}, [] {});
+    session.createMainFrame();
+    QCoreApplication::processEvents();
+    const RowRecords records(count, false);
+    for (auto _ : state) {
+        for (RibbonItem* item : records.top())
+            host.load(item, 0);
+        afterLoad(session);
+        for (RibbonItem* item : records.top())
+            host.unload(item->id);
+        afterUnload(session);
+    }
+    if (host.addInsRow() && host.addInsRow()->GetButtons().GetCount() != 0)
+        state.SkipWithError("the row was not emptied");
+    session.destroyMainFrame();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    const double calls = 2.0 * count * static_cast<double>(state.iterations());
+    state.counters["per_call"] =
+        benchmark::Counter(calls, benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+    state.SetItemsProcessed(static_cast<int64_t>(calls));
+}
+
+void rowLengths(benchmark::internal::Benchmark* benchmark)
+{
+    benchmark->ArgName("buttons")->Arg(100)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+}
+
+// A turn of the event loop after each half: the window follows the module's updates.
 void RibbonLoadUnloadWithWindow(benchmark::State& state)
 {
-    const int count = static_cast<int>(state.range(0));
-    RibbonHost host;
-    HostSession session{HostOptions()};
-    session.setWindowHandlers([](const QString&) {}, [] {});
-    session.createMainFrame();
-    QCoreApplication::processEvents();
-    const RowRecords records(count, false);
-    for (auto _ : state) {
-        for (RibbonItem* item : records.top())
-            host.load(item, 0);
-        QCoreApplication::processEvents();
-        for (RibbonItem* item : records.top())
-            host.unload(item->id);
-        QCoreApplication::processEvents();
-    }
-    if (host.addInsRow() && host.addInsRow()->GetButtons().GetCount() != 0)
-        state.SkipWithError("the row was not emptied");
-    session.destroyMainFrame();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    const double calls = 2.0 * count * static_cast<double>(state.iterations());
-    state.counters["per_call"] =
-        benchmark::Counter(calls, benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
-    state.SetItemsProcessed(static_cast<int64_t>(calls));
+    const auto turn = [](HostSession&) { QCoreApplication::processEvents(); };
+    loadAndUnloadWithWindow(state, turn, turn);
 }
-BENCHMARK(RibbonLoadUnloadWithWindow)
-    ->ArgName("buttons")
-    ->Arg(100)
-    ->Arg(1000)
-    ->Arg(10000)
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(RibbonLoadUnloadWithWindow)->Apply(rowLengths);
 
-// A sibling's two commands with their tab in front: one loads a row of N buttons, and the end
-// of its statement shows them (the user brings the tab to the front, which builds its page);
-// the other unloads them all, and the end of its statement takes the emptied tab away.
-// "per_call" is the time of one load or unload, the N buttons' widgets and the redraws
-// included.
+// A sibling's two commands with their tab in front: the end of the loading command's
+// statement shows the tab, and the user brings it to the front (its page of N buttons is
+// built); the end of the unloading command's statement takes the emptied tab away.
 void RibbonLoadShowUnload(benchmark::State& state)
 {
-    const int count = static_cast<int>(state.range(0));
-    RibbonHost host;
-    HostSession session{HostOptions()};
-    session.setWindowHandlers([](const QString&) {}, [] {});
-    session.createMainFrame();
-    QCoreApplication::processEvents();
-    auto* tabs = session.mainFrame()->findChild<QTabWidget*>(QStringLiteral("RibbonTabs"));
-    const RowRecords records(count, false);
-    for (auto _ : state) {
-        for (RibbonItem* item : records.top())
-            host.load(item, 0);
+    const auto showInFront = [](HostSession& session) {
         session.settle();
+        auto* tabs = session.mainFrame()->findChild<QTabWidget*>(QStringLiteral("RibbonTabs"));
         tabs->setCurrentIndex(tabs->count() - 1);
-        for (RibbonItem* item : records.top())
-            host.unload(item->id);
-        session.settle();
-    }
-    if (host.addInsRow() && host.addInsRow()->GetButtons().GetCount() != 0)
-        state.SkipWithError("the row was not emptied");
-    session.destroyMainFrame();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    const double calls = 2.0 * count * static_cast<double>(state.iterations());
-    state.counters["per_call"] =
-        benchmark::Counter(calls, benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
-    state.SetItemsProcessed(static_cast<int64_t>(calls));
+    };
+    loadAndUnloadWithWindow(state, showInFront, [](HostSession& session) { session.settle(); });
 }
-BENCHMARK(RibbonLoadShowUnload)
-    ->ArgName("buttons")
-    ->Arg(100)
-    ->Arg(1000)
-    ->Arg(10000)
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(RibbonLoadShowUnload)->Apply(rowLengths);
 } // namespace
