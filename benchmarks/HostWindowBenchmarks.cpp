@@ -1,20 +1,24 @@
 // The exported ribbon interface with the host's main window on screen (offscreen platform):
-// the module has set up its main-window entries and every change it makes to the model asks
-// the window to follow.
+// the module has set up its main-window entries, and the window follows the model after a
+// module's update and at the end of every statement.
 #include "RibbonHost.h"
 #include "RowRecords.h"
 
 #include <QCoreApplication>
+#include <QTabWidget>
 
 #include <HostOptions.h>
 #include <HostSession.h>
+#include <HostWindow.h>
 #include <benchmark/benchmark.h>
 
 namespace {
-// A row of N buttons loaded, the event loop's turn (the window follows the model), then the
-// buttons unloaded and another turn: the way a sibling that loads its buttons in one command
-// drives the window. "per_call" is the time of one load or unload, the redraws included.
-void RibbonLoadUnloadWithWindow(benchmark::State& state)
+// A row of N buttons loaded into the Add-Ins row and unloaded again, as often as the benchmark
+// asks, with the host's main window created by the host's own session and shown; after each
+// half of the cycle, `afterLoad` and `afterUnload` let the window follow. "per_call" is the
+// time of one load or unload, what the window does included.
+template <class AfterLoad, class AfterUnload>
+void loadAndUnloadWithWindow(benchmark::State& state, AfterLoad afterLoad, AfterUnload afterUnload)
 {
     const int count = static_cast<int>(state.range(0));
     RibbonHost host;
@@ -26,10 +30,10 @@ void RibbonLoadUnloadWithWindow(benchmark::State& state)
     for (auto _ : state) {
         for (RibbonItem* item : records.top())
             host.load(item, 0);
-        QCoreApplication::processEvents();
+        afterLoad(session);
         for (RibbonItem* item : records.top())
             host.unload(item->id);
-        QCoreApplication::processEvents();
+        afterUnload(session);
     }
     if (host.addInsRow() && host.addInsRow()->GetButtons().GetCount() != 0)
         state.SkipWithError("the row was not emptied");
@@ -40,10 +44,31 @@ void RibbonLoadUnloadWithWindow(benchmark::State& state)
         benchmark::Counter(calls, benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
     state.SetItemsProcessed(static_cast<int64_t>(calls));
 }
-BENCHMARK(RibbonLoadUnloadWithWindow)
-    ->ArgName("buttons")
-    ->Arg(100)
-    ->Arg(1000)
-    ->Arg(10000)
-    ->Unit(benchmark::kMillisecond);
+
+void rowLengths(benchmark::internal::Benchmark* benchmark)
+{
+    benchmark->ArgName("buttons")->Arg(100)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+}
+
+// A turn of the event loop after each half: the window follows the module's updates.
+void RibbonLoadUnloadWithWindow(benchmark::State& state)
+{
+    const auto turn = [](HostSession&) { QCoreApplication::processEvents(); };
+    loadAndUnloadWithWindow(state, turn, turn);
+}
+BENCHMARK(RibbonLoadUnloadWithWindow)->Apply(rowLengths);
+
+// A sibling's two commands with their tab in front: the end of the loading command's
+// statement shows the tab, and the user brings it to the front (its page of N buttons is
+// built); the end of the unloading command's statement takes the emptied tab away.
+void RibbonLoadShowUnload(benchmark::State& state)
+{
+    const auto showInFront = [](HostSession& session) {
+        session.settle();
+        auto* tabs = session.mainFrame()->findChild<QTabWidget*>(QStringLiteral("RibbonTabs"));
+        tabs->setCurrentIndex(tabs->count() - 1);
+    };
+    loadAndUnloadWithWindow(state, showInFront, [](HostSession& session) { session.settle(); });
+}
+BENCHMARK(RibbonLoadShowUnload)->Apply(rowLengths);
 } // namespace

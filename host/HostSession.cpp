@@ -141,7 +141,6 @@ void HostSession::createMainFrame()
     if (!m_mainFrame) {
         m_mainFrame.reset(new HostWindow);
         m_mainFrame->setCompletionSource(&HostSession::completions);
-        m_modelChanged = true;
         if (m_onCommandLine) {
             QObject::connect(m_mainFrame.get(), &HostWindow::commandLineEntered, m_onCommandLine);
             QObject::connect(m_mainFrame.get(), &HostWindow::closeRequested,
@@ -172,16 +171,15 @@ void HostSession::refreshWindow()
     m_refreshPending = false;
     if (!m_mainFrame)
         return;
-    const CFxUI* ui = GetFxSystemServices()->GetUI();
-    if (ui && m_modelChanged)
+    // Not only after an Update(): a module may change the model without asking (loading a
+    // ribbon button does not), and the window compares what it shows with the model.
+    if (const CFxUI* ui = GetFxSystemServices()->GetUI())
         m_mainFrame->showModel(*ui);
-    m_modelChanged = false;
     m_mainFrame->showDocument(ACTIVE_DOCUMENT);
 }
 
 void HostSession::scheduleRefresh()
 {
-    m_modelChanged = true;
     if (m_refreshPending)
         return;
     m_refreshPending = true;

@@ -83,6 +83,5 @@ private:
     std::function<void()> m_onClose;
     ViewerCallListener m_viewerCalls;
     bool m_refreshPending = false;
-    bool m_modelChanged = true; // the model changed since the window last showed it
     std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
 };

@@ -49,6 +49,24 @@ void onFirstShow(QObject* context, QMenu* menu, Fill fill)
     });
 }
 
+// The tab that the ribbon holds under `identifier`: the main group's, else the first other
+// group's (the reference group is a copy the ribbon never shows); null when no group holds
+// one, as for a tab that lost its last panel.
+const CFxUIRibbonTab* heldTab(const CFxUI& ui, const CFxUIGroup* main, const CFxString& identifier)
+{
+    if (main) {
+        if (const CFxUIRibbonTab* tab = main->GetRibbonTabs().FindFirst(identifier))
+            return tab;
+    }
+    for (const CFxUIGroup* group : ui.GetMenuGroups()) {
+        if (group == main || group == ui.GetReferenceMenuGroup())
+            continue;
+        if (const CFxUIRibbonTab* tab = group->GetRibbonTabs().FindFirst(identifier))
+            return tab;
+    }
+    return nullptr;
+}
+
 // The content of a tab's page, replaced as a whole when the tab changes.
 const char* const kPageContent = "ribbonPageContent";
 } // namespace
@@ -72,24 +90,26 @@ RibbonWidget::RibbonWidget(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_tabs);
     connect(m_tabs, &QTabWidget::currentChanged, this, [this](int index) {
-        if (index >= 0 && index < static_cast<int>(m_shown.size()) && !m_shown[index].built)
-            buildPage(index);
+        if (index >= 0 && index < static_cast<int>(m_shown.size()))
+            showPage(index);
     });
 }
 
-std::vector<const CFxUIRibbonTab*> RibbonWidget::distinctTabs(const CFxUI& ui)
+std::vector<const CFxUIRibbonTab*> RibbonWidget::shownTabs(const CFxUI& ui)
 {
     std::vector<const CFxUIRibbonTab*> tabs;
     const CFxUIWorkspace* workspace = ui.FindWorkspace(workspaceName());
     if (!workspace)
         return tabs;
-    QSet<QString> seen;
-    for (const CFxUIRibbonTab* tab : workspace->GetRibbonTabs()) {
-        const QString key = tab->GetIdentifier().toQString().toLower();
-        if (seen.contains(key))
+    const CFxUIGroup* main = mainGroup(ui);
+    // Every listing of one identifier, in any letter case, leads to the same held tab.
+    QSet<const CFxUIRibbonTab*> seen;
+    for (const CFxUIRibbonTab* listed : workspace->GetRibbonTabs()) {
+        const CFxUIRibbonTab* held = heldTab(ui, main, listed->GetIdentifier());
+        if (!held || seen.contains(held))
             continue;
-        seen.insert(key);
-        tabs.push_back(tab);
+        seen.insert(held);
+        tabs.push_back(held);
     }
     return tabs;
 }
@@ -102,25 +122,19 @@ void RibbonWidget::showModel(const CFxUI& ui)
 
 void RibbonWidget::showTabs(const CFxUI& ui)
 {
-    const std::vector<const CFxUIRibbonTab*> tabs = distinctTabs(ui);
+    const std::vector<const CFxUIRibbonTab*> tabs = shownTabs(ui);
     bool sameTabs = tabs.size() == m_shown.size();
     for (std::size_t at = 0; sameTabs && at < tabs.size(); ++at)
         sameTabs = tabs[at] == m_shown[at].tab;
     if (sameTabs) {
-        // Only the tab in front is compared; the others are built anew when they are shown.
         for (std::size_t at = 0; at < tabs.size(); ++at) {
-            const int index = static_cast<int>(at);
             const QString caption = tabs[at]->GetCaption().toQString();
-            if (m_tabs->tabText(index) != caption)
-                m_tabs->setTabText(index, caption);
-            if (index != m_tabs->currentIndex()) {
-                m_shown[at].built = false;
-                continue;
-            }
-            const quint64 signature = UiSignature::ofTab(*tabs[at]);
-            if (signature != m_shown[at].signature || !m_shown[at].built)
-                buildPage(index);
+            if (m_tabs->tabText(static_cast<int>(at)) != caption)
+                m_tabs->setTabText(static_cast<int>(at), caption);
         }
+        // Only the tab in front is compared now; the others when they are next shown.
+        if (m_tabs->currentIndex() >= 0)
+            showPage(m_tabs->currentIndex());
         return;
     }
     const QString current = m_tabs->currentIndex() >= 0 && !m_shown.empty()
@@ -151,6 +165,13 @@ void RibbonWidget::showTabs(const CFxUI& ui)
         buildPage(currentIndex);
     }
     m_tabs->setVisible(visible);
+}
+
+void RibbonWidget::showPage(int index)
+{
+    ShownTab& shown = m_shown[index];
+    if (!shown.built || UiSignature::ofTab(*shown.tab) != shown.signature)
+        buildPage(index);
 }
 
 void RibbonWidget::buildPage(int index)

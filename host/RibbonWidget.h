@@ -19,7 +19,8 @@ class QToolButton;
 // Entries whose text starts with "~" are hidden, as the host's ribbon hides them.
 //
 // The ribbon follows the model by the change: a tab's page is built when it is first shown
-// and built again only when what it shows changed; the lists of split buttons and the
+// and built again only when what it shows changed (compared when the page is in front at a
+// redraw, or when it comes to the front); the lists of split buttons and the
 // sub-menus of the application and system menus are filled when they open, one level at a
 // time, so entries nested to any depth cost only what the user opens.
 class RibbonWidget : public QWidget
@@ -33,9 +34,10 @@ public:
 
     // The workspace whose tabs are shown.
     static const char* workspaceName() { return "Drafting and Annotation"; }
-    // The tabs shown of a workspace's list: each identifier once (letter case does not
-    // matter), the first listed, in the list's order.
-    static std::vector<const CFxUIRibbonTab*> distinctTabs(const CFxUI& ui);
+    // The tabs shown for the workspace: each identifier it lists once (letter case does not
+    // matter), where it is first listed, as the tab that the main group holds under it (else
+    // another group than the reference group); an identifier no group holds is left out.
+    static std::vector<const CFxUIRibbonTab*> shownTabs(const CFxUI& ui);
 
 signals:
     void macroTriggered(const QString& macro);
@@ -49,6 +51,8 @@ private:
     };
 
     void showTabs(const CFxUI& ui);
+    // Builds the page of the tab at `index` when it was never built or its tab changed.
+    void showPage(int index);
     void buildPage(int index);
     QWidget* panelWidget(const CFxUIRibbonPanel& panel);
     QToolButton* buttonWidget(const CFxUIRibbonButton& button);

@@ -1,26 +1,40 @@
 #include "UiSignature.h"
 
-#include <QHash>
-
 #include <CFxUI.h>
 
+#include <algorithm>
+#include <cstring>
 #include <vector>
 
 namespace {
 class Fingerprint
 {
 public:
-    void add(quint64 value) { m_value = (m_value ^ value) * 0x100000001b3ULL; }
+    void add(quint64 value)
+    {
+        m_value = (m_value ^ value) * 0xff51afd7ed558ccdULL;
+        m_value ^= m_value >> 29;
+    }
     void add(const void* pointer)
     {
         add(static_cast<quint64>(reinterpret_cast<quintptr>(pointer)));
     }
-    // The characters as they are: making a QString of each text for its hash cost more than
-    // the rest of a walk, which every refresh takes over a model that only grows.
+    // The characters as they are, eight bytes a step: making a QString of each text, or
+    // hashing it a few bytes at a time, cost more than the rest of a walk, which the end of
+    // every statement takes over a model that only grows.
     void add(const CFxString& text)
     {
-        const auto bytes = static_cast<size_t>(text.length()) * sizeof(wchar_t);
-        add(static_cast<quint64>(qHashBits(text.c_str(), bytes)));
+        const auto* bytes = reinterpret_cast<const unsigned char*>(text.c_str());
+        std::size_t size = static_cast<std::size_t>(text.length()) * sizeof(wchar_t);
+        add(static_cast<quint64>(size));
+        while (size > 0) {
+            const std::size_t step = std::min(size, sizeof(quint64));
+            quint64 word = 0;
+            std::memcpy(&word, bytes, step);
+            add(word);
+            bytes += step;
+            size -= step;
+        }
     }
     void add(const CFxUICommand* command)
     {

@@ -4,6 +4,7 @@
 #include "DrawingScene.h"
 #include "RibbonWidget.h"
 #include "TestPrinters.h"
+#include "UiSignature.h"
 
 #include <QFile>
 #include <QMenu>
@@ -21,21 +22,35 @@
 #include <memory>
 
 namespace {
-// A model with the workspace the ribbon shows, and a row to put buttons in.
+// A model with a main group and the workspace the ribbon shows, and a row to put buttons in.
 class RibbonModel
 {
 public:
-    RibbonModel() : workspace(ui.CreateWorkspace(RibbonWidget::workspaceName()))
+    RibbonModel()
+        : main(ui.CreateMenuGroup(CFxString(QStringLiteral("QUILLON")))),
+          workspace(ui.CreateWorkspace(RibbonWidget::workspaceName()))
     {
+        main->SetMainGroup(true);
+        ui.GetMenuGroups().Append(main);
         ui.GetWorkspaces().Append(workspace);
     }
 
-    CFxUIRibbonTab* addTab(const QString& identifier, const QString& caption)
+    // A tab of `group` (the main group when null), listed in the workspace.
+    CFxUIRibbonTab* addTab(const QString& identifier, const QString& caption,
+                           CFxUIGroup* group = nullptr)
     {
         CFxUIRibbonTab* tab = ui.CreateRibbonTab(CFxString(identifier));
         tab->SetCaption(CFxString(caption));
+        (group ? group : main)->GetRibbonTabs().Append(tab);
         workspace->GetRibbonTabs().Append(tab);
         return tab;
+    }
+
+    CFxUIGroup* addGroup(const QString& identifier)
+    {
+        CFxUIGroup* group = ui.CreateMenuGroup(CFxString(identifier));
+        ui.GetMenuGroups().Append(group);
+        return group;
     }
 
     CFxUIRibbonRow* addRow(CFxUIRibbonTab* tab)
@@ -54,7 +69,17 @@ public:
         return made;
     }
 
+    // A tab holding one command button `identifier`.
+    CFxUIRibbonTab* addTabWithButton(const QString& tabId, const QString& caption,
+                                     const QString& identifier, CFxUIGroup* group = nullptr)
+    {
+        CFxUIRibbonTab* tab = addTab(tabId, caption, group);
+        addRow(tab)->GetButtons().Append(button(CFxUIRibbonButton::kCommand, identifier));
+        return tab;
+    }
+
     CFxUI ui;
+    CFxUIGroup* main;
     CFxUIWorkspace* workspace;
 };
 
@@ -73,24 +98,59 @@ QMenu* opened(QMenu* menu)
     emit menu->aboutToShow();
     return menu;
 }
+
+// The names of the buttons on the page of the tab at `index`, brought to the front.
+QStringList buttonsOnTab(RibbonWidget& ribbon, int index)
+{
+    auto* tabs = ribbon.findChild<QTabWidget*>(QStringLiteral("RibbonTabs"));
+    tabs->setCurrentIndex(index);
+    QStringList names;
+    for (const QToolButton* button : tabs->widget(index)->findChildren<QToolButton*>())
+        names << button->objectName();
+    return names;
+}
 } // namespace
 
-TEST(HostRibbon, ShowsEachWorkspaceTabOnceInFirstListedOrder)
+TEST(HostRibbon, ShowsEachWorkspaceIdentifierOnceAsTheTabTheRibbonHolds)
 {
     RibbonModel model;
-    model.addTab(QStringLiteral("ID_Home"), QStringLiteral("Home"));
-    model.addTab(QStringLiteral("ID_AddIns"), QStringLiteral("Add-Ins"));
-    model.addTab(QStringLiteral("ID_Home"), QStringLiteral("Home again"));
-    // A tab under a known identifier in another letter case is the same tab.
-    model.addTab(QStringLiteral("id_addins"), QStringLiteral("Add-Ins again"));
+    model.addTabWithButton(QStringLiteral("ID_Home"), QStringLiteral("Home"), "ID_LINE");
+    CFxUIRibbonTab* addIns =
+        model.addTabWithButton(QStringLiteral("ID_AddIns"), QStringLiteral("Add-Ins"), "ID_OLD");
+    // Listed again in the workspace, in another letter case too, but held by no group.
+    CFxUIRibbonTab* stray = model.ui.CreateRibbonTab(CFxString(QStringLiteral("id_home")));
+    stray->SetCaption(CFxString(QStringLiteral("Home again")));
+    model.workspace->GetRibbonTabs().Append(stray);
     model.addTab(QStringLiteral("ID_View"), QStringLiteral("View"));
     RibbonWidget ribbon;
     ribbon.showModel(model.ui);
     EXPECT_EQ(tabTexts(ribbon), QStringList({"Home", "Add-Ins", "View"}));
-    // Shown anew after a sibling's unload and load cycle: still once each.
-    model.addTab(QStringLiteral("ID_AddIns"), QStringLiteral("Add-Ins"));
+
+    // A sibling takes the last button out: the tab leaves the main group, not the workspace.
+    model.main->GetRibbonTabs().Remove(addIns);
+    ribbon.showModel(model.ui);
+    EXPECT_EQ(tabTexts(ribbon), QStringList({"Home", "View"}));
+
+    // ...and loads again: a new tab under the same identifier, listed in the workspace after
+    // the old one. The new one is shown, in the place where the identifier was first listed.
+    model.addTabWithButton(QStringLiteral("ID_ADDINS"), QStringLiteral("Add-Ins"), "ID_NEW");
     ribbon.showModel(model.ui);
     EXPECT_EQ(tabTexts(ribbon), QStringList({"Home", "Add-Ins", "View"}));
+    EXPECT_EQ(buttonsOnTab(ribbon, 1), QStringList({"ID_NEW"}));
+
+    // A tab of another group is shown when the main group has none of its identifier; the
+    // reference group's copy is never shown.
+    CFxUIGroup* reference = model.addGroup(QStringLiteral("QUILLON_REFERENCE"));
+    model.ui.SetReferenceMenuGroup(reference);
+    model.addTabWithButton(QStringLiteral("ID_Copy"), QStringLiteral("Copy"), "ID_C", reference);
+    CFxUIGroup* custom = model.addGroup(QStringLiteral("CUSTOM"));
+    model.addTabWithButton(QStringLiteral("ID_Mine"), QStringLiteral("Mine"), "ID_M", custom);
+    model.addTabWithButton(QStringLiteral("ID_View"), QStringLiteral("Not this"), "ID_X", custom);
+    ribbon.showModel(model.ui);
+    EXPECT_EQ(tabTexts(ribbon), QStringList({"Home", "Add-Ins", "View", "Mine"}));
+    EXPECT_EQ(buttonsOnTab(ribbon, 3), QStringList({"ID_M"}));
+    EXPECT_EQ(RibbonWidget::shownTabs(model.ui)[0]->GetPanels().GetCount(), 1)
+        << "the main group's Home, not the stray one";
 }
 
 TEST(HostRibbon, RedrawsOnlyTheTabThatChanged)
@@ -120,8 +180,51 @@ TEST(HostRibbon, RedrawsOnlyTheTabThatChanged)
     ASSERT_NE(renamed, nullptr);
     EXPECT_EQ(renamed->text(), "Renamed");
 
-    ribbon.findChild<QTabWidget*>(QStringLiteral("RibbonTabs"))->setCurrentIndex(1);
+    auto* tabs = ribbon.findChild<QTabWidget*>(QStringLiteral("RibbonTabs"));
+    tabs->setCurrentIndex(1);
     EXPECT_NE(ribbon.findChild<QToolButton*>(QStringLiteral("ID_B")), nullptr);
+
+    // Back to a tab that did not change since it was built, after another redraw: as it was.
+    QPointer<QToolButton> kept = ribbon.findChild<QToolButton*>(QStringLiteral("ID_A"));
+    ribbon.showModel(model.ui);
+    tabs->setCurrentIndex(0);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(kept) << "an unchanged tab is not built again when it comes to the front";
+    EXPECT_EQ(ribbon.findChild<QToolButton*>(QStringLiteral("ID_A")), kept.data());
+
+    // A tab that changed while it was behind shows the change when it comes to the front,
+    // with or without a redraw in between.
+    tabs->setCurrentIndex(1);
+    row->GetButtons().Append(model.button(CFxUIRibbonButton::kCommand, QStringLiteral("ID_C")));
+    tabs->setCurrentIndex(0);
+    EXPECT_NE(ribbon.findChild<QToolButton*>(QStringLiteral("ID_C")), nullptr);
+}
+
+TEST(HostUiSignature, TellsEveryCharacterOfAText)
+{
+    RibbonModel model;
+    CFxUIRibbonRow* row = model.addRow(model.addTab(QStringLiteral("T"), QStringLiteral("T")));
+    CFxUIRibbonButton* button = model.button(CFxUIRibbonButton::kCommand, QStringLiteral("B"));
+    row->GetButtons().Append(button);
+    // Texts of every length around the steps the fingerprint takes, changed at every place.
+    for (int length = 1; length <= 9; ++length) {
+        const QString text(length, QLatin1Char('a'));
+        button->SetText(CFxString(text));
+        const quint64 before = UiSignature::ofTab(*model.workspace->GetRibbonTabs().GetAt(0));
+        for (int at = 0; at < length; ++at) {
+            QString changed = text;
+            changed[at] = QLatin1Char('b');
+            button->SetText(CFxString(changed));
+            EXPECT_NE(UiSignature::ofTab(*model.workspace->GetRibbonTabs().GetAt(0)), before)
+                << "length " << length << ", character " << at;
+        }
+        button->SetText(CFxString(text + QLatin1Char('a')));
+        EXPECT_NE(UiSignature::ofTab(*model.workspace->GetRibbonTabs().GetAt(0)), before)
+            << "one character longer, length " << length;
+        button->SetText(CFxString(text));
+        EXPECT_EQ(UiSignature::ofTab(*model.workspace->GetRibbonTabs().GetAt(0)), before)
+            << "the same text again, length " << length;
+    }
 }
 
 TEST(HostRibbon, SplitButtonsNestedVeryDeepAreShownLevelByLevel)
@@ -153,8 +256,9 @@ TEST(HostRibbon, SplitButtonsNestedVeryDeepAreShownLevelByLevel)
         const QList<QAction*> actions = menu->actions();
         ASSERT_EQ(actions.size(), level % 2 == 0 ? 2 : 1) << "level " << level;
         EXPECT_EQ(actions.first()->text(), QStringLiteral("L%1").arg(level));
-        if (level % 2 == 0)
+        if (level % 2 == 0) {
             EXPECT_TRUE(actions.last()->isSeparator()) << "level " << level;
+        }
         ASSERT_NE(actions.first()->menu(), nullptr) << "level " << level;
         menu = opened(actions.first()->menu());
     }

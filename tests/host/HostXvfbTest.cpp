@@ -2,14 +2,11 @@
 // shows of the profile, that its menus and ribbon run commands, that the canvas shows the
 // drawing, and that closing it ends the session.
 #include "DrawingCanvas.h"
-#include "EventPrinter.h"
-#include "EventRecorder.h"
-#include "HostOptions.h"
 #include "HostSession.h"
 #include "HostWindow.h"
+#include "HostWindowOnX.h"
 #include "IsolatedHome.h"
 #include "RibbonWidget.h"
-#include "ScriptRunner.h"
 #include "TestPrinters.h"
 #include "XvfbServer.h"
 
@@ -25,66 +22,13 @@
 
 #include <gtest/gtest.h>
 
-#include <CFxDocumentManager.h>
 #include <CFxSystemServices.h>
 #include <CFxUI.h>
 #include <OdEdCommandStack.h>
 
 #include <cstdio>
-#include <memory>
 
 namespace {
-class HostWindowOnX : public ::testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        HostOptions options;
-        options.modulePath = QStringList{QStringLiteral(EC_STAGE_DIR)};
-        options.registryFile = m_home.path() + QStringLiteral("/registry.ini");
-        options.uiProfile = QStringLiteral(EC_SOURCE_DIR "/host/profiles/default.json");
-        m_session = std::make_unique<HostSession>(options);
-        m_runner = std::make_unique<ScriptRunner>(*m_session, m_printer);
-        m_session->start();
-        m_session->setWindowHandlers(
-            [this](const QString& line) { m_runner->run(line, QDir(m_home.path())); },
-            [this] {
-                m_windowGone = true;
-                QCoreApplication::quit();
-            });
-        m_session->createMainFrame();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(window()));
-    }
-
-    void TearDown() override
-    {
-        m_session->shutdown();
-        GetFxSystemServices()->GetDocumentManager()->CloseAll();
-        std::fclose(m_discarded);
-    }
-
-    HostWindow* window() const { return m_session->mainFrame(); }
-    const CFxUI& ui() const { return *GetFxSystemServices()->GetUI(); }
-
-    // The command lines that ran since `from`, known or not.
-    QStringList commandLinesRun() const
-    {
-        QStringList lines =
-            m_events.events().values(QStringLiteral("command-ended"), QStringLiteral("name"));
-        lines << m_events.events().values(QStringLiteral("unknown-command"),
-                                          QStringLiteral("name"));
-        return lines;
-    }
-
-    IsolatedHome m_home;
-    EventRecorder m_events;
-    std::FILE* m_discarded = std::fopen("/dev/null", "w");
-    EventPrinter m_printer{false, m_discarded};
-    std::unique_ptr<HostSession> m_session;
-    std::unique_ptr<ScriptRunner> m_runner;
-    bool m_windowGone = false;
-};
-
 // A menu entry of the profile whose macro runs a command on the command stack.
 const CFxUIMenuEntry* entryRunningACommand(const CFxUI& ui)
 {
@@ -137,7 +81,7 @@ TEST_F(HostWindowOnX, OpensWithTheProfilesMenusAndRibbonTabs)
     EXPECT_EQ(shownMenus, menus);
 
     QStringList tabs;
-    for (const CFxUIRibbonTab* tab : RibbonWidget::distinctTabs(ui()))
+    for (const CFxUIRibbonTab* tab : RibbonWidget::shownTabs(ui()))
         tabs << tab->GetCaption().toQString();
     const auto* tabWidget = window()->findChild<QTabWidget*>(QStringLiteral("RibbonTabs"));
     ASSERT_NE(tabWidget, nullptr);
@@ -159,7 +103,7 @@ TEST_F(HostWindowOnX, AMenuEntryAndARibbonButtonRunTheirCommands)
     EXPECT_EQ(commandLinesRun(), QStringList({menuLine}));
 
     const CFxUIRibbonButton* button = nullptr;
-    for (const CFxUIRibbonPanel* panel : RibbonWidget::distinctTabs(ui()).front()->GetPanels()) {
+    for (const CFxUIRibbonPanel* panel : RibbonWidget::shownTabs(ui()).front()->GetPanels()) {
         for (const CFxUIRibbonRow* row : panel->GetRows()) {
             for (const CFxUIRibbonButton* candidate : row->GetButtons()) {
                 if (!button && candidate->GetCommand())
@@ -187,7 +131,7 @@ TEST_F(HostWindowOnX, TheCanvasShowsTheDrawingFittedToIt)
         "0\nLWPOLYLINE\n70\n1\n10\n0\n20\n0\n10\n200\n20\n0\n10\n200\n20\n100\n10\n0\n20\n100\n"
         "0\nLINE\n10\n20\n20\n80\n11\n60\n21\n80\n0\nENDSEC\n0\nEOF\n");
     file.close();
-    m_runner->run(QStringLiteral("open frame.dxf"), QDir(m_home.path()));
+    run(QStringLiteral("open frame.dxf"));
     DrawingCanvas* canvas = window()->canvas();
     const QRect area(canvas->mapTo(window(), QPoint()), canvas->size());
     // The picture as the X server holds it.
