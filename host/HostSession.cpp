@@ -59,7 +59,7 @@ void HostSession::start()
     if (!m_options.registryFile.isEmpty())
         CFxRegistry::setStandInFile(QFileInfo(m_options.registryFile).absoluteFilePath());
     loadUiProfile();
-    m_urls = std::make_unique<UrlRecorder>();
+    m_urls = std::make_unique<UrlRecorder>(m_options.refuseUrls);
     m_translations = std::make_unique<TranslationObserver>();
     m_viewerCalls.listen();
     for (const QString& module : m_options.modules)
