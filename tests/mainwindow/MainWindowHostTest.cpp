@@ -124,6 +124,39 @@ TEST_P(LanguageTest, SetsTheLocaleInstallsTheTranslatorsAndOpensThePagesOfTheLan
 
 INSTANTIATE_TEST_SUITE_P(EveryLanguage, LanguageTest, ::testing::ValuesIn(kLanguages));
 
+// A desktop that cannot open the page changes nothing for the commands: each ends normally.
+struct Desktop
+{
+    QStringList arguments;
+    // What the host reports for each address handed to this desktop.
+    QString event;
+};
+
+void PrintTo(const Desktop& desktop, std::ostream* out)
+{
+    *out << desktop.event.toStdString();
+}
+
+class WebPageCommandsTest : public ::testing::TestWithParam<Desktop>
+{};
+
+TEST_P(WebPageCommandsTest, EndNormallyWhetherTheDesktopOpensThePageOrRefusesIt)
+{
+    HostProcess host;
+    const HostResult result = host.runScript(
+        "mainframe create; CHECKFORUPDATES; _RELEASENOTES; checkforupdates", GetParam().arguments);
+    ASSERT_EQ(result.exitCode, 0) << result.standardError.toStdString();
+    const QString handed = GetParam().event + ' ';
+    EXPECT_EQ(result.events.timeline({"url-opened url", "url-refused url", "command-ended result"}),
+              QStringList({handed + productPage("", "free-download"), "command-ended 5100",
+                           handed + productPage("", "latest-version"), "command-ended 5100",
+                           handed + productPage("", "free-download"), "command-ended 5100"}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Desktops, WebPageCommandsTest,
+                         ::testing::Values(Desktop{{}, "url-opened"},
+                                           Desktop{{"--refuse-urls"}, "url-refused"}));
+
 // Each main window installs a set of translators of its own; the sets of earlier windows stay.
 TEST(SecondMainWindowTest, InstallsASecondSetOfTranslatorsAndKeepsTheLanguage)
 {
