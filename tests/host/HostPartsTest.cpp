@@ -142,7 +142,7 @@ TEST(TranslationObserverTest, RemembersOnlyTheTranslatorsStillInstalled)
 }
 
 // A translator taken away is reported with the file it had loaded, whether it was removed or
-// deleted (Qt announces both at once); one installed and still there is not.
+// deleted, as Qt announces it (so in the order of removal); one still installed is not.
 TEST(TranslationObserverTest, ReportsEachTranslatorTakenAwayWithItsFile)
 {
     QTemporaryDir folder;
