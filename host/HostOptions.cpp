@@ -99,6 +99,8 @@ void defineOptions(QCommandLineParser& parser)
          QStringLiteral("Use FILE as the system registry's stand-in (default: "
                         "Corvane/registry.ini in the user's configuration folder)."),
          QStringLiteral("FILE")},
+        {QStringLiteral("refuse-urls"),
+         QStringLiteral("Make the desktop refuse every web address that is handed to it.")},
         {QStringLiteral("c"),
          QStringLiteral("Run TEXT as the script (statements separated by newlines or ';')."),
          QStringLiteral("TEXT")},
@@ -137,6 +139,7 @@ HostOptions HostOptions::parse(const QStringList& arguments, QString& helpText, 
     options.uiProfile = parser.value(QStringLiteral("ui-profile"));
     options.registryFile = parser.value(QStringLiteral("registry"));
     parseProductVersion(parser.value(QStringLiteral("product-version")), options.productVersion);
+    options.refuseUrls = parser.isSet(QStringLiteral("refuse-urls"));
     options.json = parser.isSet(QStringLiteral("json"));
     options.demo = parser.isSet(QStringLiteral("demo"));
     if (parser.isSet(QStringLiteral("c")))

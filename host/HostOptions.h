@@ -20,6 +20,8 @@ struct HostOptions
     // The version that the host reports to modules (release, service release, service pack,
     // build): its own unless --product-version says otherwise.
     int productVersion[4] = {2026, 0, 1, 4120};
+    // The desktop refuses every web address that is handed to it.
+    bool refuseUrls = false;
     bool json = false;
     // Play the demo session even when a display would allow the window.
     bool demo = false;

@@ -73,7 +73,7 @@ void HostSession::start()
     services->SetInstallationId(installationId());
     useRegistryStandIn(m_options.registryFile);
     loadUiProfile();
-    m_urls = std::make_unique<UrlRecorder>();
+    m_urls = std::make_unique<UrlRecorder>(m_options.refuseUrls);
     m_translations = std::make_unique<TranslationObserver>();
     m_viewerCalls.listen();
     for (const QString& module : m_options.modules)

@@ -8,8 +8,10 @@ namespace {
 const char* const kSchemes[] = {"http", "https"};
 } // namespace
 
-UrlRecorder::UrlRecorder()
+UrlRecorder::UrlRecorder(bool refusing)
 {
+    if (refusing)
+        m_refuser = std::make_unique<UrlRefuser>();
     registerHandlers();
 }
 
@@ -21,8 +23,10 @@ UrlRecorder::~UrlRecorder()
 
 void UrlRecorder::registerHandlers()
 {
+    QObject* receiver = m_refuser ? static_cast<QObject*>(m_refuser.get()) : this;
+    const char* method = m_refuser ? UrlRefuser::method() : "openUrl";
     for (const char* scheme : kSchemes)
-        QDesktopServices::setUrlHandler(QLatin1String(scheme), this, "openUrl");
+        QDesktopServices::setUrlHandler(QLatin1String(scheme), receiver, method);
 }
 
 void UrlRecorder::unregisterHandlers()

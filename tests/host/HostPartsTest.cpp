@@ -1,6 +1,6 @@
 // The host's parts: splitting a script into statements and words, the command line, the library
-// search path it starts itself with, and how an event is written, as one JSON object per line or
-// one readable line.
+// search path it starts itself with, how an event is written, as one JSON object per line or one
+// readable line, and how the host watches the addresses and translators that modules hand to Qt.
 #include "CompanionSearch.h"
 #include "EventPrinter.h"
 #include "EventRecorder.h"
@@ -9,11 +9,16 @@
 #include "ScriptParser.h"
 #include "TestPrinters.h"
 #include "TranslationObserver.h"
+#include "UrlRecorder.h"
 
 #include <QCoreApplication>
+#include <QDesktopServices>
 #include <QDir>
+#include <QFile>
 #include <QJsonArray>
+#include <QTemporaryDir>
 #include <QTranslator>
+#include <QUrl>
 
 #include <gtest/gtest.h>
 
@@ -87,6 +92,8 @@ TEST(HostOptionsTest, RepeatedOptionsAddUpAndModulesGivenReplaceTheDefaultList)
               std::vector<int>({2017, 0, 5, 1234}));
     EXPECT_TRUE(parse({"--no-module"}).modules.isEmpty());
     EXPECT_EQ(parse({"--no-module", "--module", "A"}).modules, QStringList({"A"}));
+    EXPECT_FALSE(parse({}).refuseUrls);
+    EXPECT_TRUE(parse({"--refuse-urls"}).refuseUrls);
 }
 
 TEST(HostOptionsTest, RefusesBadArgumentsWithAClearMessage)
@@ -180,6 +187,41 @@ TEST(TranslationObserverTest, RemembersOnlyTheTranslatorsStillInstalled)
     observer.statementEnded();
     EXPECT_EQ(observer.remembered(), before);
     EXPECT_EQ(events.events().count("translator-installed"), 400);
+    EXPECT_EQ(events.events().count("translator-removed"), 400);
+}
+
+// A translator taken away is reported with the file it had loaded, whether it was removed or
+// deleted, as Qt announces it (so in the order of removal); one still installed is not.
+TEST(TranslationObserverTest, ReportsEachTranslatorTakenAwayWithItsFile)
+{
+    QTemporaryDir folder;
+    const auto catalogue = [&folder](const char* name) {
+        // The smallest catalogue that QTranslator loads: the magic number alone.
+        const QString path = folder.filePath(QString::fromLatin1(name) + ".qm");
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(QByteArray::fromHex("3cb86418caef9c95cd211cbf60a1bddd"));
+        return path;
+    };
+    std::vector<std::unique_ptr<QTranslator>> translators;
+    for (const char* name : {"first", "second", "third"}) {
+        translators.push_back(std::make_unique<QTranslator>());
+        ASSERT_TRUE(translators.back()->load(catalogue(name)));
+        QCoreApplication::installTranslator(translators.back().get());
+    }
+    EventRecorder events;
+    TranslationObserver observer;
+    QCoreApplication::removeTranslator(translators[2].get());
+    translators[0].reset();
+    observer.statementEnded();
+    EXPECT_EQ(events.events().values("translator-removed", "file"),
+              QStringList({folder.filePath("third.qm"), folder.filePath("first.qm")}));
+    EXPECT_EQ(events.events().count("translator-installed"), 0);
+    QCoreApplication::installTranslator(translators[2].get());
+    observer.statementEnded();
+    EXPECT_EQ(events.events().values("translator-installed", "file"),
+              QStringList{folder.filePath("third.qm")});
+    EXPECT_EQ(events.events().count("translator-removed"), 2) << "the second stayed throughout";
 }
 
 TEST(TranslationObserverTest, GoesThroughTheTranslatorsOnlyAfterQtChangedThemAndSeesAnAddressReused)
@@ -206,6 +248,41 @@ TEST(TranslationObserverTest, GoesThroughTheTranslatorsOnlyAfterQtChangedThemAnd
     QCoreApplication::installTranslator(new (storage) QTranslator);
     observer.statementEnded();
     EXPECT_EQ(events.events().count("translator-installed"), 10);
+    EXPECT_EQ(events.events().count("translator-removed"), 1);
     EXPECT_EQ(observer.remembered(), before + int(kept.size()) + 1);
     reinterpret_cast<QTranslator*>(storage)->~QTranslator();
 }
+
+// What a module learns when it hands an address to the desktop: opened, or refused by a
+// desktop that cannot open it (--refuse-urls). Either way the host reports the address.
+struct DesktopCase
+{
+    bool refusing;
+    bool opened;
+    const char* event;
+};
+
+void PrintTo(const DesktopCase& desktop, std::ostream* out)
+{
+    *out << (desktop.refusing ? "refusing" : "accepting");
+}
+
+class DesktopTest : public ::testing::TestWithParam<DesktopCase>
+{};
+
+TEST_P(DesktopTest, ReportsEveryWebAddressAndAnswersAsTheDesktopWould)
+{
+    EventRecorder events;
+    {
+        const UrlRecorder recorder(GetParam().refusing);
+        EXPECT_EQ(QDesktopServices::openUrl(QUrl("http://www.corvane.com/a b")), GetParam().opened);
+        EXPECT_EQ(QDesktopServices::openUrl(QUrl("https://labs.corvane.com/")), GetParam().opened);
+    }
+    EXPECT_EQ(events.events().names(), QStringList({GetParam().event, GetParam().event}));
+    EXPECT_EQ(events.events().values(GetParam().event, "url"),
+              QStringList({"http://www.corvane.com/a b", "https://labs.corvane.com/"}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Desktops, DesktopTest,
+                         ::testing::Values(DesktopCase{false, true, "url-opened"},
+                                           DesktopCase{true, false, "url-refused"}));

@@ -124,21 +124,63 @@ TEST_P(LanguageTest, SetsTheLocaleInstallsTheTranslatorsAndOpensThePagesOfTheLan
 
 INSTANTIATE_TEST_SUITE_P(EveryLanguage, LanguageTest, ::testing::ValuesIn(kLanguages));
 
-// Each main window installs a set of translators of its own; the sets of earlier windows stay.
-TEST(SecondMainWindowTest, InstallsASecondSetOfTranslatorsAndKeepsTheLanguage)
+// A desktop that cannot open the page changes nothing for the commands: each ends normally.
+struct Desktop
+{
+    QStringList arguments;
+    // What the host reports for each address handed to this desktop.
+    QString event;
+};
+
+void PrintTo(const Desktop& desktop, std::ostream* out)
+{
+    *out << desktop.event.toStdString();
+}
+
+class WebPageCommandsTest : public ::testing::TestWithParam<Desktop>
+{};
+
+TEST_P(WebPageCommandsTest, EndNormallyWhetherTheDesktopOpensThePageOrRefusesIt)
 {
     HostProcess host;
     const HostResult result = host.runScript(
-        "mainframe create; mainframe destroy; mainframe create; ui", arguments(1, "zh_TW"));
+        "mainframe create; CHECKFORUPDATES; _RELEASENOTES; checkforupdates", GetParam().arguments);
+    ASSERT_EQ(result.exitCode, 0) << result.standardError.toStdString();
+    const QString handed = GetParam().event + ' ';
+    EXPECT_EQ(result.events.timeline({"url-opened url", "url-refused url", "command-ended result"}),
+              QStringList({handed + productPage("", "free-download"), "command-ended 5100",
+                           handed + productPage("", "latest-version"), "command-ended 5100",
+                           handed + productPage("", "free-download"), "command-ended 5100"}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Desktops, WebPageCommandsTest,
+                         ::testing::Values(Desktop{{}, "url-opened"},
+                                           Desktop{{"--refuse-urls"}, "url-refused"}));
+
+// Each main window, and each creation of it again, installs a set of translators of its own;
+// the sets installed before stay: none is taken away.
+class SecondMainWindowTest : public ::testing::TestWithParam<const char*>
+{};
+
+TEST_P(SecondMainWindowTest, InstallsASecondSetOfTranslatorsAndKeepsTheFirst)
+{
+    HostProcess host;
+    const HostResult result =
+        host.runScript(QString::fromUtf8(GetParam()) + "; ui", arguments(1, "zh_TW"));
     ASSERT_EQ(result.exitCode, 0) << result.standardError.toStdString();
     const QString folder = HostProcess::stageFolder() + "/messages/german/";
     const QStringList set{folder + "GCode.qm", folder + "recentdocumentbrowser.qm",
                           folder + "QuillonOmniplaneConnector.qm",
                           folder + "QNTForgeportConnector.qm"};
     EXPECT_EQ(result.events.values("translator-installed", "file"), set + set);
+    EXPECT_EQ(result.events.values("translator-removed", "file"), QStringList());
     EXPECT_EQ(result.events.values("default-locale", "name"), QStringList({"de_DE", "de_DE"}));
     EXPECT_EQ(checkForUpdatesText(result), QString::fromUtf8(kGerman));
 }
+
+INSTANTIATE_TEST_SUITE_P(Creations, SecondMainWindowTest,
+                         ::testing::Values("mainframe create; mainframe destroy; mainframe create",
+                                           "mainframe create; mainframe create"));
 
 // The host looks for translations beside its program: the test runs a program folder of its
 // own (the host hard-linked or copied, the libraries linked) with the messages it chooses.
@@ -176,6 +218,24 @@ TEST_F(TranslationFolderTest, WithoutTheLanguageFolderTheBaseFolderIsUsed)
     const HostResult result = runGerman();
     EXPECT_EQ(result.events.values("translator-installed", "file"),
               QStringList({m_folder.filePath("messages/GCode.qm"), "", "", ""}));
+    EXPECT_EQ(checkForUpdatesText(result), QString::fromUtf8(kGerman));
+}
+
+// A catalogue missing from the language folder gives an empty translator, installed in its
+// place, even when the base folder holds that catalogue.
+TEST_F(TranslationFolderTest, ALanguageFolderWithSomeCataloguesGivesEmptyTranslatorsForTheRest)
+{
+    const QString german = m_folder.filePath("messages/german/");
+    ASSERT_TRUE(QDir().mkpath(german));
+    for (const char* catalogue : {"GCode.qm", "QNTForgeportConnector.qm"})
+        ASSERT_TRUE(QFile::copy(HostProcess::stageFolder() + "/messages/german/" + catalogue,
+                                german + catalogue));
+    ASSERT_TRUE(
+        QFile::copy(HostProcess::stageFolder() + "/messages/german/recentdocumentbrowser.qm",
+                    m_folder.filePath("messages/recentdocumentbrowser.qm")));
+    const HostResult result = runGerman();
+    EXPECT_EQ(result.events.values("translator-installed", "file"),
+              QStringList({german + "GCode.qm", "", "", german + "QNTForgeportConnector.qm"}));
     EXPECT_EQ(checkForUpdatesText(result), QString::fromUtf8(kGerman));
 }
 

@@ -121,6 +121,23 @@ INSTANTIATE_TEST_SUITE_P(
         RecordedVersionCase{
             "LaterServiceRelease", "2017.0.3", {2017, 1, 0, 9}, kReminderCheck, "2017.0.3"}));
 
+// Documents that stood before the module came: closing one that is not active activates none,
+// and a new one is created before it is activated. Only the activation makes the check.
+TEST_F(CrashReportHook, CreatingOrClosingADocumentLeavesTheCheckToTheFirstActivation)
+{
+    const int first = openDocument();
+    openDocument();
+    start({2017, 0, 9, 3});
+    EXPECT_TRUE(documents()->CloseDocument(first));
+    EXPECT_EQ(calls(), QStringList({"getRegVersion"}));
+    openDocument();
+    EXPECT_EQ(recorder.events().timeline({"document-opened", "document-activated",
+                                          "document-closed", "companion-call call"}),
+              QStringList({"companion-call getRegVersion", "document-closed", "document-opened",
+                           "document-activated", "companion-call initialCheckOnInstall",
+                           "companion-call setRegVersion"}));
+}
+
 TEST_F(CrashReportHook, ASecondStartCreatesNoSecondReactor)
 {
     start({2017, 0, 9, 3});

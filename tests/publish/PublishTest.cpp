@@ -43,6 +43,15 @@ QByteArray contentOf(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
 }
 
+// A file's mode in octal, as chmod takes it ("755"); "none" when it cannot be read.
+QString modeOf(const QString& path)
+{
+    struct stat status = {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
+        return QStringLiteral("none");
+    return QString::number(status.st_mode & 07777, 8);
+}
+
 void writeFile(const QString& path, const QByteArray& content)
 {
     QDir().mkpath(QFileInfo(path).absolutePath());
@@ -296,6 +305,25 @@ TEST_F(PublishToViewcast, TheActiveDocumentIsPublishedAndWithoutOneTheErrorBoxSh
     EXPECT_EQ(viewerCalls(result),
               QStringList{"VcModelViewer.VcstViewer.10 IDispatch::Invoke(53) opened " +
                           scratch("plan.dxf") + " plan.vcst"});
+}
+
+// An empty scratch folder that a run before left behind goes and is made anew, so that it has
+// what the user's new folders get, not the mode it was left with; one that still holds files
+// stays as it is (above).
+TEST_F(PublishToViewcast, AnEmptyScratchFolderFromBeforeIsMadeAnewWithTheUsersDefaultMode)
+{
+    installViewer({10});
+    // The host starts with this process's file mode mask, so it makes its folders like this one.
+    const QString fresh = m_host.home() + "/fresh";
+    ASSERT_TRUE(QDir().mkdir(fresh));
+    const QString usual = modeOf(fresh);
+    ASSERT_TRUE(QDir().mkdir(scratch()));
+    ASSERT_EQ(::chmod(QFile::encodeName(scratch()).constData(), 0701), 0);
+    ASSERT_NE(modeOf(scratch()), usual);
+
+    publish({drawing("site/plan.dxf")});
+    EXPECT_EQ(modeOf(scratch()), usual);
+    EXPECT_EQ(QDir(scratch()).entryList(QDir::Files), QStringList{"plan.dxf"});
 }
 
 TEST_F(PublishToViewcast, DrawingNeverSavedOrScratchFolderNotWritableShowsTheErrorBox)

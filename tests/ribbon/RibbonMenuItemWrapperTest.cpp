@@ -1,4 +1,5 @@
 // The exported ribbon functions as a sibling calls them, on the host's default profile.
+#include "MessageLog.h"
 #include "RibbonHost.h"
 #include "TestPrinters.h"
 
@@ -210,4 +211,37 @@ TEST(RibbonVisibility, SwitchesOnlyTheSplitButtonOfExactlyThatIdentifierInTheAdd
     ASSERT_NE(other, nullptr);
     EXPECT_EQ(texts(exactly(other->GetButtons(), kVaultline)->GetSubButtons()),
               QStringList{"Open"});
+}
+
+// Each button looked at on the way to the data-management split button is written to the debug
+// log, as its text, under a source, line and function that never change, so that whoever reads
+// the log finds the lines by those three.
+TEST(RibbonVisibility, WritesEachButtonLookedAtToTheDebugLogUnderAFixedSourceLineAndFunction)
+{
+    RibbonHost host;
+    Children children;
+    RibbonItem drawCompare = record(kDrawCompare), gcode = record(kGCode),
+               vaultline = record(kVaultline, "split"), partKit = record("ID_PK_PARTKIT");
+    drawCompare.text = QStringLiteral("Draw \"compare\"");
+    children.add(vaultline, "ID_VL_OPEN", "command")->text = QStringLiteral("Open");
+    for (RibbonItem* item : {&drawCompare, &gcode, &vaultline, &partKit})
+        host.load(item, 0);
+    const QString line =
+        QStringLiteral("debug RibbonMenuItemWrapper:21 "
+                       "[void __cdecl SetRibbonItemVisibility(const class QString &,bool)] ");
+
+    {
+        const MessageLog log;
+        host.setVisibility("ID_VL_OPEN", false);
+        EXPECT_EQ(log.lines(), QStringList({line + "Draw \"compare\"", line + "id_gcode_item",
+                                            line + "id_vaultline_item"}))
+            << "up to the split button, and none after it";
+    }
+
+    host.unload(kVaultline);
+    const MessageLog log;
+    host.setVisibility("ID_VL_OPEN", true);
+    EXPECT_EQ(log.lines(), QStringList({line + "Draw \"compare\"", line + "id_gcode_item",
+                                        line + "id_pk_partkit"}))
+        << "without the split button, every button of the row";
 }
