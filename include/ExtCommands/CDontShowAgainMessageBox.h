@@ -44,10 +44,6 @@ protected Q_SLOTS:
     virtual void checkboxStateChanged(int state);
 
 private:
-    void setUpForm(const QString& message, QDialogButtonBox::StandardButtons buttons);
-    void connectForm();
-    QString checkedKey() const;
-
     // A derived box is laid out after these members, in a sibling's own build: their order,
     // types and sizes are part of the module's binary interface. The form is the one generated
     // from the module's .ui file, and comes with this header.

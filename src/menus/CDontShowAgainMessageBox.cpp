@@ -29,6 +29,36 @@ QSettings* openSettings()
     return new QSettings(folder.filePath(heapText("dontshowagainmessagebox.ini")),
                          QSettings::IniFormat);
 }
+
+QString checkedKey(const QString& id)
+{
+    return id + heapText("/checked");
+}
+
+// The helpers of the box are file-local rather than members: the class is exported whole, and
+// what is not a member cannot become part of the interface that siblings are built against.
+void setUpForm(Ui::DontShowAgainMessageBoxDialog& form, QDialog* box, const QString& message,
+               QDialogButtonBox::StandardButtons buttons, int checkState)
+{
+    form.setupUi(box);
+    form.label->setText(message);
+    form.buttonBox->clear();
+    form.buttonBox->setStandardButtons(buttons);
+    form.checkBox->setCheckState(static_cast<Qt::CheckState>(checkState));
+}
+
+// Connected by name through the meta-object, so that the overrides of a derived message box
+// are the ones called.
+void connectForm(const Ui::DontShowAgainMessageBoxDialog& form, QObject* box)
+{
+    QObject::connect(form.buttonBox, SIGNAL(accepted()), box, SLOT(buttonAccept()));
+    QObject::connect(form.buttonBox, SIGNAL(rejected()), box, SLOT(buttonReject()));
+    QObject::connect(form.buttonBox, SIGNAL(helpRequested()), box, SLOT(buttonHelp()));
+    QObject::connect(form.buttonBox, SIGNAL(clicked(QAbstractButton*)), box,
+                     SLOT(buttonClicked(QAbstractButton*)));
+    QObject::connect(form.checkBox, SIGNAL(stateChanged(int)), box,
+                     SLOT(checkboxStateChanged(int)));
+}
 } // namespace
 
 CDontShowAgainMessageBox::CDontShowAgainMessageBox(const QString& id, const QString& message,
@@ -39,9 +69,9 @@ CDontShowAgainMessageBox::CDontShowAgainMessageBox(const QString& id, const QStr
 {
     // A value that is missing or not a number reads as 0, unchecked.
     if (m_settings)
-        m_checkState = m_settings->value(checkedKey()).toInt();
-    setUpForm(message, buttons);
-    connectForm();
+        m_checkState = m_settings->value(checkedKey(m_id)).toInt();
+    setUpForm(m_form, this, message, buttons, m_checkState);
+    connectForm(m_form, this);
 }
 
 CDontShowAgainMessageBox::~CDontShowAgainMessageBox()
@@ -64,7 +94,7 @@ int CDontShowAgainMessageBox::execUnlessSuppressed()
 void CDontShowAgainMessageBox::buttonAccept()
 {
     if (m_settings)
-        m_settings->setValue(checkedKey(), m_checkState);
+        m_settings->setValue(checkedKey(m_id), m_checkState);
     QDialog::accept();
 }
 
@@ -80,31 +110,4 @@ void CDontShowAgainMessageBox::buttonClicked(QAbstractButton*) {}
 void CDontShowAgainMessageBox::checkboxStateChanged(int state)
 {
     m_checkState = state;
-}
-
-void CDontShowAgainMessageBox::setUpForm(const QString& message,
-                                         QDialogButtonBox::StandardButtons buttons)
-{
-    m_form.setupUi(this);
-    m_form.label->setText(message);
-    m_form.buttonBox->clear();
-    m_form.buttonBox->setStandardButtons(buttons);
-    m_form.checkBox->setCheckState(static_cast<Qt::CheckState>(m_checkState));
-}
-
-// Connected by name through the meta-object, so that the overrides of a derived message box
-// are the ones called.
-void CDontShowAgainMessageBox::connectForm()
-{
-    connect(m_form.buttonBox, SIGNAL(accepted()), this, SLOT(buttonAccept()));
-    connect(m_form.buttonBox, SIGNAL(rejected()), this, SLOT(buttonReject()));
-    connect(m_form.buttonBox, SIGNAL(helpRequested()), this, SLOT(buttonHelp()));
-    connect(m_form.buttonBox, SIGNAL(clicked(QAbstractButton*)), this,
-            SLOT(buttonClicked(QAbstractButton*)));
-    connect(m_form.checkBox, SIGNAL(stateChanged(int)), this, SLOT(checkboxStateChanged(int)));
-}
-
-QString CDontShowAgainMessageBox::checkedKey() const
-{
-    return m_id + heapText("/checked");
 }
