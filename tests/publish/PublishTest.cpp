@@ -286,6 +286,31 @@ TEST_F(PublishToViewcast, CopiesGoIntoTheScratchFolderLosslesslyOnceEachAndOverw
                                " ??.vcst"}));
 }
 
+// Drawings on another file system than the user's home (a network share, a memory stick) are
+// copied all the same, whole: the system cannot copy between them in the kernel, and the module
+// copies block by block instead. /dev/shm stands for that other file system here.
+TEST_F(PublishToViewcast, ReferencesOnAnotherFileSystemAreCopiedWhole)
+{
+    struct stat shared = {}, home = {};
+    if (::stat("/dev/shm", &shared) != 0 || ::stat(qPrintable(m_host.home()), &home) != 0 ||
+        shared.st_dev == home.st_dev)
+        GTEST_SKIP() << "no file system apart from the test's home at /dev/shm";
+    QTemporaryDir other("/dev/shm/PublishTest-XXXXXX");
+    ASSERT_TRUE(other.isValid());
+    QString output;
+    ASSERT_EQ(python("make-drawings.py", {other.path()}, &output), 0) << output.toStdString();
+    installViewer({10});
+
+    publish({other.filePath("tree/main.dxf")});
+    for (const char* copied :
+         {"parts/a.dxf", "shared/b.dxf", "c.dxf", "far/e.dxf", "side/f.dxf", "parts/部品 ß.dxf"})
+        EXPECT_EQ(contentOf(scratch(QFileInfo(copied).fileName())),
+                  contentOf(other.filePath(QString("tree/") + copied)))
+            << copied;
+    EXPECT_EQ(QFileInfo(scratch("a.dxf")).permissions(),
+              QFileInfo(other.filePath("tree/parts/a.dxf")).permissions());
+}
+
 // What is published is the active document's drawing, not the one opened last; with no document
 // open there is nothing to save, which the error box tells.
 TEST_F(PublishToViewcast, TheActiveDocumentIsPublishedAndWithoutOneTheErrorBoxShows)

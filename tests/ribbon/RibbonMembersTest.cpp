@@ -23,7 +23,13 @@ TEST(RibbonMembers, UnloadRibbonMenuTakesAnyRowsPanelWithItsLastButton)
     wrapper->LoadRibbonMenu(&item, 0);
 
     wrapper->UnloadRibbonMenu(item.id, kAddInsTab, "ID_RibbonAddInsPanel", "ID_RibbonAddInsRow");
-    EXPECT_NE(ui.FindCommand("QUILLON", item.id), nullptr) << "no such row: nothing happens";
+    wrapper->UnloadRibbonMenu(item.id, "ID_RibbonHomeTab", "ID_NO_PANEL", "ID_MEMBERS_ROW");
+    wrapper->UnloadRibbonMenu(item.id, "ID_RibbonHomeTab", "ID_RibbonDrawPanel", "ID_NO_ROW");
+    EXPECT_NE(ui.FindCommand("QUILLON", item.id), nullptr)
+        << "no such tab, panel or row: nothing happens";
+    EXPECT_NE(row(*exactly(ui.GetMenuGroups(), "QUILLON"), "ID_RibbonHomeTab", "ID_RibbonDrawPanel",
+                  "ID_MEMBERS_ROW"),
+              nullptr);
     wrapper->UnloadRibbonMenu(item.id, "id_ribbonhometab", "ID_RIBBONDRAWPANEL", "id_members_row");
     EXPECT_EQ(ui.FindCommand("QUILLON", item.id), nullptr);
     EXPECT_EQ(ids(exactly(ui.GetMenuGroups(), "QUILLON")->GetRibbonTabs().GetAt(0)->GetPanels()),
