@@ -240,6 +240,27 @@ TEST_F(PublishToViewcast, ViewersThatNeverAnswerEndInTheTaskPanesNotice)
     EXPECT_EQ(taskPaneAndErrors(result), QStringList{"showViewcastMeassage"});
 }
 
+// A version 9 viewer is opened through its own interface, which is looked for first: a server
+// that can be created but whose application lacks that interface gets no call, and the user
+// gets the notice about the viewer.
+TEST_F(PublishToViewcast, AVersionNineViewerWithoutItsInterfaceEndsInTheTaskPanesNotice)
+{
+    const QString name = "com.corvane.VcModelViewer.VcstViewer.v9";
+    writeFile(m_bus.serviceFolder() + '/' + name + ".service",
+              QString("[D-BUS Service]\nName=%1\nExec=/usr/bin/python3 %2 %1\n")
+                  .arg(name, EC_SOURCE_DIR "/tests/publish/faceless-viewer.py")
+                  .toUtf8());
+    QSettings registry(registryFile(), QSettings::IniFormat);
+    registry.setValue(kCurrentVersion, "VcModelViewer.VcstViewer.9");
+    registry.sync();
+
+    const HostResult result = publish({drawing("site/plan.dxf")});
+    EXPECT_TRUE(viewerCalls(result).isEmpty());
+    EXPECT_EQ(taskPaneAndErrors(result), QStringList{"showViewcastMeassage"});
+    EXPECT_EQ(result.events.values("file-written", "path"), QStringList{scratch("plan.dxf")})
+        << "the copy is made before the viewer is asked";
+}
+
 TEST_F(PublishToViewcast, CopiesGoIntoTheScratchFolderLosslesslyOnceEachAndOverwritingNothing)
 {
     installViewer({10});

@@ -6,7 +6,9 @@
 #include <gtest/gtest.h>
 
 #include <CFxHostServices.h>
+#include <CFxString.h>
 #include <CFxUIJsonReader.h>
+#include <ExtCommands/ExportTableRibbon.h>
 #include <ExtCommands/RibbonMenuItemWrapper.h>
 
 TEST(RibbonMembers, UnloadRibbonMenuTakesAnyRowsPanelWithItsLastButton)
@@ -35,5 +37,28 @@ TEST(RibbonMembers, UnloadRibbonMenuTakesAnyRowsPanelWithItsLastButton)
     EXPECT_EQ(ids(exactly(ui.GetMenuGroups(), "QUILLON")->GetRibbonTabs().GetAt(0)->GetPanels()),
               (QStringList{"ID_RibbonModifyPanel", "ID_RibbonAnnotationPanel"}))
         << "the emptied row's panel goes, with the host's own row that it holds";
+    GetFxHostServices()->SetUI(nullptr);
+}
+
+// The export-table singleton's look-ups, as a sibling that links the module calls them.
+TEST(RibbonMembers, TheExportTableFindsTheMainGroupAndDirectSubEntriesInAnyLetterCase)
+{
+    auto owned = std::make_unique<CFxUI>();
+    CFxUIJsonReader::readFile(kDefaultProfile, *owned);
+    CFxUI& ui = *owned;
+    GetFxHostServices()->SetUI(std::move(owned));
+    ExportTableRibbon* table = ExportTableRibbon::GetExportTableInstance();
+    CFxUIGroup* main = table->GetMainGroup(&ui);
+    ASSERT_NE(main, nullptr);
+    EXPECT_EQ(main->GetIdentifier().toQString(), "QUILLON");
+    EXPECT_EQ(table->GetMainGroup(nullptr), nullptr);
+
+    CFxUIRibbonSystemMenuItem* top = menuEntry(*main, {"RSM"});
+    ASSERT_NE(top, nullptr);
+    EXPECT_EQ(table->SearchRibbonMenuItem(top, CFxString(QStringLiteral("rsmi_10"))),
+              menuEntry(*main, {"RSM", "RSMI_10"}));
+    EXPECT_EQ(table->SearchRibbonMenuItem(top, CFxString(QStringLiteral("RSMI_13"))), nullptr)
+        << "an entry one level further down is not a direct sub-entry";
+    EXPECT_EQ(table->SearchRibbonMenuItem(nullptr, CFxString(QStringLiteral("RSM"))), nullptr);
     GetFxHostServices()->SetUI(nullptr);
 }
