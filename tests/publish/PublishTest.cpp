@@ -105,6 +105,21 @@ protected:
         ASSERT_EQ(QProcess::execute(HostProcess::stageFolder() + "/vcst-viewer", arguments), 0);
     }
 
+    // Installs the server of viewer `version` as the Python script beside this file, which is
+    // given the bus name; the registry names it the current version when it is the newest.
+    void installFakeViewer(int version, const char* script)
+    {
+        const QString name = QString("com.corvane.VcModelViewer.VcstViewer.v%1").arg(version);
+        writeFile(m_bus.serviceFolder() + '/' + name + ".service",
+                  QString("[D-BUS Service]\nName=%1\nExec=/usr/bin/python3 %2/%3 %1\n")
+                      .arg(name, EC_SOURCE_DIR "/tests/publish", QLatin1String(script))
+                      .toUtf8());
+        QSettings registry(registryFile(), QSettings::IniFormat);
+        const QString current = registry.value(kCurrentVersion).toString();
+        if (current.section('.', -1).toInt() < version)
+            registry.setValue(kCurrentVersion, QString("VcModelViewer.VcstViewer.%1").arg(version));
+    }
+
     // Runs the host with the module: each drawing opened and published in turn.
     HostResult publish(const QStringList& paths)
     {
@@ -224,16 +239,8 @@ INSTANTIATE_TEST_SUITE_P(
 // the four versions would outlast the run's limit).
 TEST_F(PublishToViewcast, ViewersThatNeverAnswerEndInTheTaskPanesNotice)
 {
-    for (int version = 9; version <= 12; ++version) {
-        const QString name = QString("com.corvane.VcModelViewer.VcstViewer.v%1").arg(version);
-        writeFile(m_bus.serviceFolder() + '/' + name + ".service",
-                  QString("[D-BUS Service]\nName=%1\nExec=/usr/bin/python3 %2 %1\n")
-                      .arg(name, EC_SOURCE_DIR "/tests/publish/black-hole.py")
-                      .toUtf8());
-    }
-    QSettings registry(registryFile(), QSettings::IniFormat);
-    registry.setValue(kCurrentVersion, "VcModelViewer.VcstViewer.12");
-    registry.sync();
+    for (int version = 9; version <= 12; ++version)
+        installFakeViewer(version, "black-hole.py");
 
     const HostResult result = publish({drawing("site/plan.dxf")});
     EXPECT_TRUE(viewerCalls(result).isEmpty());
@@ -245,14 +252,7 @@ TEST_F(PublishToViewcast, ViewersThatNeverAnswerEndInTheTaskPanesNotice)
 // gets the notice about the viewer.
 TEST_F(PublishToViewcast, AVersionNineViewerWithoutItsInterfaceEndsInTheTaskPanesNotice)
 {
-    const QString name = "com.corvane.VcModelViewer.VcstViewer.v9";
-    writeFile(m_bus.serviceFolder() + '/' + name + ".service",
-              QString("[D-BUS Service]\nName=%1\nExec=/usr/bin/python3 %2 %1\n")
-                  .arg(name, EC_SOURCE_DIR "/tests/publish/faceless-viewer.py")
-                  .toUtf8());
-    QSettings registry(registryFile(), QSettings::IniFormat);
-    registry.setValue(kCurrentVersion, "VcModelViewer.VcstViewer.9");
-    registry.sync();
+    installFakeViewer(9, "faceless-viewer.py");
 
     const HostResult result = publish({drawing("site/plan.dxf")});
     EXPECT_TRUE(viewerCalls(result).isEmpty());

@@ -11,12 +11,25 @@
 #include <ExtCommands/ExportTableRibbon.h>
 #include <ExtCommands/RibbonMenuItemWrapper.h>
 
-TEST(RibbonMembers, UnloadRibbonMenuTakesAnyRowsPanelWithItsLastButton)
+// The host's user interface from the default profile, for the life of a test.
+class RibbonMembers : public ::testing::Test
 {
-    auto owned = std::make_unique<CFxUI>();
-    CFxUIJsonReader::readFile(kDefaultProfile, *owned);
-    CFxUI& ui = *owned;
-    GetFxHostServices()->SetUI(std::move(owned));
+protected:
+    ~RibbonMembers() override { GetFxHostServices()->SetUI(nullptr); }
+
+    static CFxUI& useDefaultProfile()
+    {
+        auto owned = std::make_unique<CFxUI>();
+        CFxUIJsonReader::readFile(kDefaultProfile, *owned);
+        GetFxHostServices()->SetUI(std::move(owned));
+        return *GetFxSystemServices()->GetUI();
+    }
+
+    CFxUI& ui = useDefaultProfile();
+};
+
+TEST_F(RibbonMembers, UnloadRibbonMenuTakesAnyRowsPanelWithItsLastButton)
+{
     RibbonMenuItemWrapper* wrapper = RibbonMenuItemWrapper::GetRibbonMenuItemWrapperInstance();
     RibbonItem item = record("ID_MEMBERS_TOOL");
     item.tabId = QStringLiteral("ID_RibbonHomeTab");
@@ -37,16 +50,11 @@ TEST(RibbonMembers, UnloadRibbonMenuTakesAnyRowsPanelWithItsLastButton)
     EXPECT_EQ(ids(exactly(ui.GetMenuGroups(), "QUILLON")->GetRibbonTabs().GetAt(0)->GetPanels()),
               (QStringList{"ID_RibbonModifyPanel", "ID_RibbonAnnotationPanel"}))
         << "the emptied row's panel goes, with the host's own row that it holds";
-    GetFxHostServices()->SetUI(nullptr);
 }
 
 // The export-table singleton's look-ups, as a sibling that links the module calls them.
-TEST(RibbonMembers, TheExportTableFindsTheMainGroupAndDirectSubEntriesInAnyLetterCase)
+TEST_F(RibbonMembers, TheExportTableFindsTheMainGroupAndDirectSubEntriesInAnyLetterCase)
 {
-    auto owned = std::make_unique<CFxUI>();
-    CFxUIJsonReader::readFile(kDefaultProfile, *owned);
-    CFxUI& ui = *owned;
-    GetFxHostServices()->SetUI(std::move(owned));
     ExportTableRibbon* table = ExportTableRibbon::GetExportTableInstance();
     CFxUIGroup* main = table->GetMainGroup(&ui);
     ASSERT_NE(main, nullptr);
@@ -60,5 +68,4 @@ TEST(RibbonMembers, TheExportTableFindsTheMainGroupAndDirectSubEntriesInAnyLette
     EXPECT_EQ(table->SearchRibbonMenuItem(top, CFxString(QStringLiteral("RSMI_13"))), nullptr)
         << "an entry one level further down is not a direct sub-entry";
     EXPECT_EQ(table->SearchRibbonMenuItem(nullptr, CFxString(QStringLiteral("RSM"))), nullptr);
-    GetFxHostServices()->SetUI(nullptr);
 }
