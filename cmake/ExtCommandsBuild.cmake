@@ -33,6 +33,20 @@ if(EXTCOMMANDS_SANITIZE)
     add_compile_definitions(EXTCOMMANDS_SANITIZE=1)
 endif()
 
+option(EXTCOMMANDS_COVERAGE "Build with gcc's coverage counters (scripts/coverage)" OFF)
+if(EXTCOMMANDS_COVERAGE)
+    # Every program and library counts its lines and branches; each process adds its counts to
+    # the .gcda files beside the objects when it exits or unloads a library, so the module's
+    # counts come from the test programs and from every host they start alike.
+    if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        message(FATAL_ERROR "EXTCOMMANDS_COVERAGE needs gcc (gcovr reads gcc's counters)")
+    endif()
+    add_compile_options(--coverage)
+    # The counters' runtime is linked into every library; kept out of their exports, so that a
+    # module exports what it exports in every build (tests/build checks the list).
+    add_link_options(--coverage LINKER:--exclude-libs,libgcov.a)
+endif()
+
 option(EXTCOMMANDS_FUZZ "Build the libFuzzer targets (clang only); every library is instrumented" OFF)
 if(EXTCOMMANDS_FUZZ)
     # The libraries and the module carry coverage counters and the sanitizers; only the fuzz

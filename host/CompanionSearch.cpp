@@ -1,6 +1,7 @@
 #include "CompanionSearch.h"
 
 #include "HostError.h"
+#include "QuotedText.h"
 
 #include <QDir>
 #include <QFile>
@@ -49,7 +50,7 @@ QString CompanionSearch::folder(const QString& companionPath)
         if (chosen.contains(QLatin1Char(*special)))
             throw HostError(QStringLiteral("the companion folder %1 holds '%2', which the "
                                            "library search path (%3) cannot name")
-                                .arg(chosen, QString(QLatin1Char(*special)),
+                                .arg(QuotedText::of(chosen), QString(QLatin1Char(*special)),
                                      QString::fromLatin1(kSearchPathVariable)));
     }
 #endif

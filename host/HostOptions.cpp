@@ -1,6 +1,7 @@
 #include "HostOptions.h"
 
 #include "HostError.h"
+#include "QuotedText.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -13,7 +14,8 @@ int parseInteger(const QString& text, const QString& option)
     bool ok = false;
     const int value = text.toInt(&ok);
     if (!ok)
-        throw HostError(QStringLiteral("--%1 takes a whole number, not '%2'").arg(option, text));
+        throw HostError(QStringLiteral("--%1 takes a whole number, not '%2'")
+                            .arg(option, QuotedText::of(text)));
     return value;
 }
 
@@ -29,13 +31,13 @@ void parseProductVersion(const QString& text, int (&version)[4])
 {
     const QStringList parts = text.split(QLatin1Char('.'));
     if (parts.size() != 4)
-        throw HostError(
-            QStringLiteral("--product-version takes four numbers A.B.C.D, not '%1'").arg(text));
+        throw HostError(QStringLiteral("--product-version takes four numbers A.B.C.D, not '%1'")
+                            .arg(QuotedText::of(text)));
     for (int i = 0; i < 4; ++i) {
         if (!isDigits(parts[i]))
             throw HostError(
                 QStringLiteral("--product-version takes whole numbers 0, 1, 2, ..., not '%1'")
-                    .arg(parts[i]));
+                    .arg(QuotedText::of(parts[i])));
         version[i] = parseInteger(parts[i], QStringLiteral("product-version"));
     }
 }
@@ -119,7 +121,7 @@ HostOptions HostOptions::parse(const QStringList& arguments, QString& helpText, 
     defineOptions(parser);
     exitEarly = false;
     if (!parser.parse(QStringList{QStringLiteral("quillon-host")} + arguments))
-        throw HostError(parser.errorText());
+        throw HostError(QuotedText::within(parser.errorText()));
     if (parser.isSet(QStringLiteral("help")) || parser.isSet(QStringLiteral("version"))) {
         helpText = parser.isSet(QStringLiteral("help")) ? helpTextOf(parser)
                                                         : QStringLiteral("quillon-host 1.0.0\n");
@@ -146,8 +148,8 @@ HostOptions HostOptions::parse(const QStringList& arguments, QString& helpText, 
         options.scriptText = parser.value(QStringLiteral("c"));
     const QStringList positional = parser.positionalArguments();
     if (positional.size() > 1)
-        throw HostError(
-            QStringLiteral("one script at most, not %1").arg(positional.join(QLatin1Char(' '))));
+        throw HostError(QStringLiteral("one script at most, not %1")
+                            .arg(QuotedText::of(positional.join(QLatin1Char(' ')))));
     if (!positional.isEmpty() && options.scriptText)
         throw HostError(QStringLiteral("give either a script file or -c TEXT, not both"));
     if (!positional.isEmpty())

@@ -2,11 +2,13 @@
 
 #include "HostError.h"
 #include "HostWindow.h"
+#include "QuotedText.h"
 #include "ScriptRunner.h"
 #include "TranslationObserver.h"
 #include "UrlRecorder.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
@@ -14,6 +16,7 @@
 
 #include <CFxCommandContext.h>
 #include <CFxHostServices.h>
+#include <CFxTextFile.h>
 #include <CFxUI.h>
 #include <CFxUIJsonReader.h>
 #include <CFxUIJsonWriter.h>
@@ -32,6 +35,22 @@
 #include <utility>
 
 namespace {
+#if !defined(_WIN32)
+// A registry file that does not exist yet reads as empty and is made when a value is first
+// written. One that exists must be one the registry can be read from: anything else would
+// read as empty without a word (a device, a folder) or never (a pipe).
+void checkRegistryFile(const QString& file)
+{
+    if (!QFileInfo::exists(file))
+        return;
+    QByteArray content;
+    QString why;
+    if (!CFxTextFile::read(file, content, why))
+        throw HostError(
+            QStringLiteral("registry %1: cannot be read: %2").arg(QuotedText::of(file), why));
+}
+#endif
+
 // Modules find the registry stand-in through the environment, as they find the system's
 // registry, so it is chosen before any module is loaded: `file`, or the default, so that a file
 // chosen by whoever started the host does not count. Windows has the registry itself.
@@ -40,9 +59,36 @@ void useRegistryStandIn(const QString& file)
 #if defined(_WIN32)
     Q_UNUSED(file);
 #else
-    RegistryStandIn::useFile(file.isEmpty() ? RegistryStandIn::defaultFile()
-                                            : QFileInfo(file).absoluteFilePath());
+    const QString chosen =
+        file.isEmpty() ? RegistryStandIn::defaultFile() : QFileInfo(file).absoluteFilePath();
+    checkRegistryFile(chosen);
+    RegistryStandIn::useFile(chosen);
 #endif
+}
+
+// A file of the system that is made as it is read (in /proc, /sys) shows a size of 0 and yet
+// holds text; a drawing read by its size would read as empty.
+bool madeAsItIsRead(const QFileInfo& file)
+{
+    if (file.size() != 0)
+        return false;
+    QFile content(file.filePath());
+    return content.open(QIODevice::ReadOnly) && !content.read(1).isEmpty();
+}
+
+// Why `path` cannot be opened as a document; empty when it can.
+QString whyNoDocument(const QString& path)
+{
+    const QFileInfo file(path);
+    if (!file.exists())
+        return QStringLiteral("no such file");
+    const QString special = CFxTextFile::notRegularFile(path);
+    if (!special.isEmpty())
+        return special;
+    if (madeAsItIsRead(file))
+        return QStringLiteral("it is a file that the system makes as it is read (its size shows "
+                              "as 0), not a stored drawing");
+    return QString();
 }
 } // namespace
 
@@ -93,7 +139,9 @@ void HostSession::loadUiProfile()
         CFxUIJsonReader::readFile(
             m_options.uiProfile.isEmpty() ? defaultUiProfile() : m_options.uiProfile, *ui);
     } catch (const OdError& error) {
-        throw HostError(QStringLiteral("UI profile %1").arg(toQString(error.description())));
+        throw HostError(
+            QStringLiteral("UI profile %1")
+                .arg(QuotedText::within(toQString(error.description()), {m_options.uiProfile})));
     }
     GetFxHostServices()->SetUI(std::move(ui));
 }
@@ -206,28 +254,32 @@ void HostSession::loadModule(const QString& name)
     try {
         odrxDynamicLinker()->loadModule(toOdString(name), false);
     } catch (const OdError& error) {
-        throw HostError(toQString(error.description()));
+        throw HostError(QuotedText::within(toQString(error.description()), {name}));
     }
 }
 
 void HostSession::unloadModule(const QString& name)
 {
     if (odrxDynamicLinker()->getModule(toOdString(name)).isNull())
-        throw HostError(QStringLiteral("module %1 is not loaded").arg(name));
+        throw HostError(QStringLiteral("module %1 is not loaded").arg(QuotedText::of(name)));
     odrxDynamicLinker()->unloadModule(toOdString(name));
 }
 
 void HostSession::openDocument(const QString& path)
 {
+    if (path.isEmpty())
+        throw HostError(QStringLiteral("cannot open a document: the path is empty"));
+    const QString why = whyNoDocument(path);
+    if (!why.isEmpty())
+        throw HostError(QStringLiteral("cannot open %1: %2").arg(QuotedText::of(path), why));
     const QFileInfo file(path);
-    if (!file.isFile())
-        throw HostError(QStringLiteral("cannot open %1: no such file").arg(path));
     OdDbDatabasePtr database;
     try {
         database = OdDbDatabase::readFile(toOdString(file.absoluteFilePath()));
     } catch (const OdError& error) {
         std::fprintf(stderr, "quillon-host: warning: %s; it opens as a drawing never saved\n",
-                     qUtf8Printable(toQString(error.description())));
+                     qUtf8Printable(QuotedText::within(toQString(error.description()),
+                                                       {file.absoluteFilePath()})));
     }
     GetFxSystemServices()->GetDocumentManager()->OpenDocument(file.absoluteFilePath(),
                                                               std::move(database));
@@ -254,7 +306,9 @@ void HostSession::runCommandLine(const QString& name, const QStringList& answers
     try {
         found = odedRegCmds()->executeCommand(toOdString(name), &context);
     } catch (const OdError& error) {
-        throw HostError(QStringLiteral("command %1: %2").arg(name, toQString(error.description())));
+        throw HostError(QStringLiteral("command %1: %2")
+                            .arg(QuotedText::of(name),
+                                 QuotedText::within(toQString(error.description()), answers)));
     }
     if (!found) {
         OdEventLog::report(QStringLiteral("unknown-command"), {{QStringLiteral("name"), name}});
@@ -294,6 +348,12 @@ void HostSession::screenshot(const QString& path)
 {
     if (!m_mainFrame)
         throw HostError(QStringLiteral("there is no main window to take a picture of"));
+    if (path.isEmpty())
+        throw HostError(QStringLiteral("cannot write a picture: the path is empty"));
+    // Writing would wait for ever for a reader of a pipe, and never reach a file in a device.
+    const QString special = CFxTextFile::notRegularFile(path);
+    if (!special.isEmpty())
+        throw HostError(QStringLiteral("cannot write %1: %2").arg(QuotedText::of(path), special));
     if (!m_mainFrame->isVisible()) {
         m_mainFrame->setAttribute(Qt::WA_DontShowOnScreen, true);
         m_mainFrame->show();
@@ -301,7 +361,7 @@ void HostSession::screenshot(const QString& path)
     refreshWindow();
     QCoreApplication::processEvents();
     if (!m_mainFrame->grab().save(path, "PNG"))
-        throw HostError(QStringLiteral("cannot write %1").arg(path));
+        throw HostError(QStringLiteral("cannot write %1").arg(QuotedText::of(path)));
     OdEventLog::report(QStringLiteral("file-written"),
                        {{QStringLiteral("path"), QFileInfo(path).absoluteFilePath()}});
 }

@@ -41,7 +41,8 @@ public:
     void loadModule(const QString& name);
     void unloadModule(const QString& name);
     // Opens the file `path` as a document, with the drawing read from it; a file that is not a
-    // readable drawing opens without one (a warning on standard error says why).
+    // readable drawing opens without one (a warning on standard error says why). An empty
+    // path, and anything but a regular file that holds what it says it holds, is refused.
     void openDocument(const QString& path);
     void activateDocument(int index);
     void closeDocument(int index);

@@ -3,6 +3,7 @@
 #include "EventPrinter.h"
 #include "HostError.h"
 #include "HostSession.h"
+#include "QuotedText.h"
 #include "ResidentMemory.h"
 #include "ScriptParser.h"
 
@@ -24,7 +25,7 @@ bool ScriptRunner::run(const QString& script, const QDir& baseFolder)
             } catch (const HostError& error) {
                 throw HostError(QStringLiteral("line %1 (%2): %3")
                                     .arg(statement.line)
-                                    .arg(statement.text, error.message()));
+                                    .arg(QuotedText::of(statement.text), error.message()));
             }
             m_session.settle();
         }
@@ -63,7 +64,7 @@ void ScriptRunner::execute(const ScriptStatement& statement, const QDir& baseFol
         m_session.unloadModule(statement.words[1]);
     } else if (keyword == QLatin1String("open")) {
         expectWords(statement, 2, "open PATH");
-        m_session.openDocument(baseFolder.absoluteFilePath(statement.words[1]));
+        m_session.openDocument(pathOf(statement.words[1], baseFolder));
     } else if (keyword == QLatin1String("activate")) {
         expectWords(statement, 2, "activate N");
         m_session.activateDocument(documentNumber(statement));
@@ -78,7 +79,7 @@ void ScriptRunner::execute(const ScriptStatement& statement, const QDir& baseFol
         m_session.reportCommands();
     } else if (keyword == QLatin1String("screenshot")) {
         expectWords(statement, 2, "screenshot PATH");
-        m_session.screenshot(baseFolder.absoluteFilePath(statement.words[1]));
+        m_session.screenshot(pathOf(statement.words[1], baseFolder));
     } else if (keyword == QLatin1String("memory")) {
         expectWords(statement, 1, "memory");
         OdEventLog::report(QStringLiteral("memory"),
@@ -91,13 +92,19 @@ void ScriptRunner::execute(const ScriptStatement& statement, const QDir& baseFol
     }
 }
 
+QString ScriptRunner::pathOf(const QString& word, const QDir& baseFolder)
+{
+    // The base folder would take an empty word for itself.
+    return word.isEmpty() ? word : baseFolder.absoluteFilePath(word);
+}
+
 int ScriptRunner::documentNumber(const ScriptStatement& statement)
 {
     bool ok = false;
     const int number = statement.words[1].toInt(&ok);
     if (!ok || number < 1)
-        throw HostError(
-            QStringLiteral("'%1' is not a document number (1, 2, ...)").arg(statement.words[1]));
+        throw HostError(QStringLiteral("'%1' is not a document number (1, 2, ...)")
+                            .arg(QuotedText::of(statement.words[1])));
     return number;
 }
 

@@ -24,6 +24,8 @@ public:
 
 private:
     void execute(const ScriptStatement& statement, const QDir& baseFolder);
+    // The path that a statement's word names, taken from `baseFolder`; empty for an empty word.
+    static QString pathOf(const QString& word, const QDir& baseFolder);
     static int documentNumber(const ScriptStatement& statement);
     static void expectWords(const ScriptStatement& statement, int count, const char* usage);
 

@@ -5,6 +5,7 @@
 #include "HostOptions.h"
 #include "HostSession.h"
 #include "HostWindow.h"
+#include "QuotedText.h"
 #include "ScriptRunner.h"
 
 #include <QApplication>
@@ -35,7 +36,8 @@ QString readScript(const QString& path)
     QByteArray content;
     QString error;
     if (!CFxTextFile::read(path, content, error))
-        throw HostError(QStringLiteral("cannot read script %1: %2").arg(path, error));
+        throw HostError(
+            QStringLiteral("cannot read script %1: %2").arg(QuotedText::of(path), error));
     return QString::fromUtf8(content);
 }
 

@@ -1,7 +1,12 @@
 #include "CFxTextFile.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QTextCodec>
+
+#if defined(Q_OS_UNIX)
+#include <sys/stat.h>
+#endif
 
 namespace {
 constexpr qint64 kChunk = 64 * 1024;
@@ -15,11 +20,43 @@ QString tooLarge()
 {
     return QStringLiteral("it is larger than %1 bytes").arg(CFxTextFile::kMaxSize);
 }
+// The kind of something that exists and is neither a regular file nor a folder.
+QString specialFileKind(const QString& path)
+{
+#if defined(Q_OS_UNIX)
+    struct stat status = {};
+    if (::stat(QFile::encodeName(path).constData(), &status) == 0) {
+        if (S_ISCHR(status.st_mode) || S_ISBLK(status.st_mode))
+            return QStringLiteral("it is a device, not a regular file");
+        if (S_ISFIFO(status.st_mode))
+            return QStringLiteral("it is a pipe, not a regular file");
+        if (S_ISSOCK(status.st_mode))
+            return QStringLiteral("it is a socket, not a regular file");
+    }
+#else
+    Q_UNUSED(path);
+#endif
+    return QStringLiteral("it is not a regular file");
+}
 } // namespace
+
+QString CFxTextFile::notRegularFile(const QString& path)
+{
+    // QFileInfo knows Qt's resources (":/...") too, which the system cannot be asked about.
+    const QFileInfo info(path);
+    if (info.isFile() || !info.exists())
+        return QString();
+    if (info.isDir())
+        return QStringLiteral("it is a folder");
+    return specialFileKind(path);
+}
 
 bool CFxTextFile::read(const QString& path, QByteArray& content, QString& error)
 {
     content.clear();
+    error = notRegularFile(path);
+    if (!error.isEmpty())
+        return false;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         error = file.errorString();
@@ -30,7 +67,8 @@ bool CFxTextFile::read(const QString& path, QByteArray& content, QString& error)
         error = why;
         return false;
     };
-    // A regular file says its size; a pipe or a device is read in pieces up to the bound.
+    // A regular file says its size, and is read in pieces up to the bound all the same: a file
+    // of the system (in /proc) says 0 and holds more, and a file may grow while it is read.
     if (!file.isSequential() && file.size() > kMaxSize)
         return refuse(tooLarge());
     while (true) {

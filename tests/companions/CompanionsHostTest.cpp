@@ -188,6 +188,18 @@ INSTANTIATE_TEST_SUITE_P(
         SwitchCase{"CollaborationTrueNetworkYesPlease", true, QString("yes please"),
                    "addiQuestionView addQNOmniplaneView addXmlTodxf addTaskPane removeXmlTodxf"}));
 
+// Switched on but not installed, the collaboration connector is asked for and, missing, left out:
+// nothing is called in it, and the rest goes on as usual.
+TEST_F(CompanionsHost, ACollaborationConnectorSwitchedOnButNotInstalledIsLeftOut)
+{
+    install({"QuillonQnMurmurConnector", "QNTForgeportConnector", "TarnTaskPane"});
+    setSwitches(true, std::nullopt);
+    const HostResult result = run("mainframe create");
+    EXPECT_EQ(result.events.values("module-load-failed", "module"),
+              QStringList{"QuillonOmniplaneConnector"});
+    EXPECT_EQ(result.events.values("companion-call", "call").join(' '), kNetworkOn);
+}
+
 // The companion folder alone is searched: the module here is the stage's, with every companion
 // library lying beside it, and only those in the companion folder are called.
 struct FolderCase

@@ -4,12 +4,25 @@
 #include "TestPrinters.h"
 
 #include <QFile>
+#include <QRegularExpression>
 
 #include <gtest/gtest.h>
+
+#include <sys/stat.h>
 
 class HostBadInput : public ::testing::Test
 {
 protected:
+    // A pipe that nobody writes to, in the test's home: opened for reading or writing, it
+    // waits for ever. A host that opens it is killed after `kPatience`, and the case fails.
+    QString makePipe(const QString& name)
+    {
+        const QString path = host.home() + '/' + name;
+        EXPECT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        return path;
+    }
+
+    static constexpr int kPatience = 30000;
     HostProcess host;
 };
 
@@ -35,7 +48,8 @@ class HostBadStatement : public HostBadInput, public ::testing::WithParamInterfa
 TEST_P(HostBadStatement, EndsTheScriptButNotTheSession)
 {
     const BadScript& bad = GetParam();
-    const HostResult result = host.runScript(bad.script);
+    makePipe("pipe");
+    const HostResult result = host.run({"-c", bad.script}, kPatience);
     const QString message = QString::fromUtf8(bad.message).replace("%HOME%", host.home());
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_EQ(result.events.values("error", "message"), QStringList({message}));
@@ -63,6 +77,28 @@ INSTANTIATE_TEST_SUITE_P(
         BadScript{"UnloadOfAModuleNotLoaded",
                   "unload ProbeModule",
                   "line 1 (unload ProbeModule): module ProbeModule is not loaded",
+                  {}},
+        // Each path that names no file the host could open as a document says what it is.
+        BadScript{
+            "FolderAsDocument", "open /", "line 1 (open /): cannot open /: it is a folder", {}},
+        BadScript{"NullDeviceAsDocument",
+                  "open /dev/null",
+                  "line 1 (open /dev/null): cannot open /dev/null: it is a device, not a regular "
+                  "file",
+                  {}},
+        BadScript{"PipeAsDocument",
+                  "Home; open pipe",
+                  "line 1 (open pipe): cannot open %HOME%/pipe: it is a pipe, not a regular file",
+                  {"command-ended"}},
+        BadScript{"EmptyPathAsDocument",
+                  "open \"\"",
+                  "line 1 (open ): cannot open a document: the path is empty",
+                  {}},
+        BadScript{"SystemFileAsDocument",
+                  "open /proc/self/status",
+                  "line 1 (open /proc/self/status): cannot open /proc/self/status: it is a file "
+                  "that the system makes as it is read (its size shows as 0), not a stored "
+                  "drawing",
                   {}}));
 
 TEST_F(HostBadInput, AMissingScriptOrStartModuleIsReportedAndNothingRuns)
@@ -104,18 +140,19 @@ TEST_F(HostBadInput, ACompanionFolderThatNoSearchPathCanNameStopsBeforeAnythingS
         << qPrintable(result.standardError);
 }
 
-// A script or a profile that is not text, or too large to be one, is refused before anything of
-// it is used, with the file and the reason named: none of its statements runs. FILE in the
-// arguments stands for the case's file, written into the test's home.
+// A script, a profile or a registry file that is not a regular file of text, or too large to be
+// one, is refused before anything of it is used, with the file and the reason named: none of
+// its statements runs. FILE in the arguments stands for the case's file, made in the test's home.
 namespace {
 struct NotText
 {
     const char* name;
-    const char* file; // written into the test's home; none for a device
+    const char* file; // made in the test's home; none for a device or a folder
     QByteArray content;
     qint64 size; // when larger than the content: the file is made sparse to this size
     QStringList arguments;
     const char* message;
+    bool pipe = false; // the file is a pipe that nobody writes to
 };
 
 // How failures and CTest name the case.
@@ -130,6 +167,8 @@ class HostRefusesInput : public HostBadInput, public ::testing::WithParamInterfa
 protected:
     QString write(const NotText& input)
     {
+        if (input.pipe)
+            return makePipe(input.file);
         QFile file(host.home() + '/' + input.file);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(input.content);
@@ -140,13 +179,13 @@ protected:
     }
 };
 
-TEST_P(HostRefusesInput, ThatIsNotUtf8TextOrTooLarge)
+TEST_P(HostRefusesInput, ThatIsNotARegularFileOfUtf8Text)
 {
     const NotText& input = GetParam();
     const QString file = input.file ? write(input) : QString();
     QStringList arguments = input.arguments;
     arguments.replaceInStrings("FILE", file);
-    const HostResult result = host.run(arguments);
+    const HostResult result = host.run(arguments, kPatience);
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_EQ(result.events.values("error", "message"),
               QStringList{QString::fromUtf8(input.message).replace("FILE", file)});
@@ -185,19 +224,181 @@ INSTANTIATE_TEST_SUITE_P(
                 QByteArray(),
                 0,
                 {"/dev/zero"},
-                "cannot read script /dev/zero: it holds a NUL byte (at byte 0), so it is not "
-                "text"},
+                "cannot read script /dev/zero: it is a device, not a regular file"},
+        NotText{"PipeAsScript",
+                "script.pipe",
+                QByteArray(),
+                0,
+                {"FILE"},
+                "cannot read script FILE: it is a pipe, not a regular file",
+                true},
+        NotText{"FolderAsScript",
+                nullptr,
+                QByteArray(),
+                0,
+                {"/"},
+                "cannot read script /: it is a folder"},
         NotText{"DeviceAsProfile",
                 nullptr,
                 QByteArray(),
                 0,
                 {"--ui-profile", "/dev/zero", "-c", "Home"},
-                "UI profile /dev/zero: cannot be read: it holds a NUL byte (at byte 0), so it is "
-                "not text"},
+                "UI profile /dev/zero: cannot be read: it is a device, not a regular file"},
+        NotText{"PipeAsProfile",
+                "profile.pipe",
+                QByteArray(),
+                0,
+                {"--ui-profile", "FILE", "-c", "Home"},
+                "UI profile FILE: cannot be read: it is a pipe, not a regular file",
+                true},
         NotText{"ProfileWithNul",
                 "nul.json",
                 QByteArray("{}\0", 3),
                 0,
                 {"--ui-profile", "FILE", "-c", "Home"},
                 "UI profile FILE: cannot be read: it holds a NUL byte (at byte 2), so it is not "
-                "text"}));
+                "text"},
+        NotText{"DeviceAsRegistry",
+                nullptr,
+                QByteArray(),
+                0,
+                {"--registry", "/dev/zero", "-c", "Home"},
+                "registry /dev/zero: cannot be read: it is a device, not a regular file"},
+        NotText{"PipeAsRegistry",
+                "registry.pipe",
+                QByteArray(),
+                0,
+                {"--registry", "FILE", "-c", "Home"},
+                "registry FILE: cannot be read: it is a pipe, not a regular file",
+                true},
+        NotText{"FolderAsRegistry",
+                nullptr,
+                QByteArray(),
+                0,
+                {"--registry", "/", "-c", "Home"},
+                "registry /: cannot be read: it is a folder"},
+        NotText{"RegistryWithNul",
+                "nul.ini",
+                QByteArray("[HKEY_LOCAL_MACHINE]\n\0", 22),
+                0,
+                {"--registry", "FILE", "-c", "Home"},
+                "registry FILE: cannot be read: it holds a NUL byte (at byte 21), so it is not "
+                "text"},
+        NotText{"Latin1Registry",
+                "latin1.ini",
+                "[HKEY_LOCAL_MACHINE]\nSOFTWARE\\Corvane\\Owner=caf\xe9\n",
+                0,
+                {"--registry", "FILE", "-c", "Home"},
+                "registry FILE: cannot be read: it is not UTF-8 text"}));
+
+TEST_F(HostBadInput, APictureIsWrittenOnlyToARegularFile)
+{
+    makePipe("pipe");
+    const struct
+    {
+        const char* path;
+        QString message;
+    } cases[] = {
+        {"pipe", "line 2 (screenshot pipe): cannot write " + host.home() +
+                     "/pipe: it is a pipe, not a regular file"},
+        {"/", "line 2 (screenshot /): cannot write /: it is a folder"},
+        {"\"\"", "line 2 (screenshot ): cannot write a picture: the path is empty"},
+    };
+    for (const auto& each : cases) {
+        const HostResult result = host.run(
+            {"--no-module", "-c",
+             QStringLiteral("mainframe create\nscreenshot %1").arg(QLatin1String(each.path))},
+            kPatience);
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_EQ(result.events.values("error", "message"), QStringList({each.message}));
+        EXPECT_EQ(result.events.count("file-written"), 0);
+    }
+}
+
+TEST_F(HostBadInput, ARegistryFileNotMadeYetReadsAsEmpty)
+{
+    const HostResult result = host.runScript("Home", {"--registry", "later/registry.ini"});
+    EXPECT_EQ(result.exitCode, 0) << qPrintable(result.standardError);
+    EXPECT_EQ(result.events.count("error"), 0);
+    EXPECT_EQ(result.events.count("command-ended"), 1);
+}
+
+// However long the input, an error message quotes at most 200 characters of each statement,
+// word, path or identifier, followed by the length of what it left out.
+namespace {
+QString quoted(const QString& text)
+{
+    return text.left(200) + QStringLiteral("... (%1 characters)").arg(text.size());
+}
+
+// The message of a run that failed: its error event, or for a command line that could not be
+// read, the first line of standard error.
+QString messageOf(const HostResult& result)
+{
+    const QStringList errors = result.events.values("error", "message");
+    if (!errors.isEmpty())
+        return errors.join('\n');
+    return result.standardError.section('\n', 0, 0).remove(QRegularExpression("^quillon-host: "));
+}
+} // namespace
+
+TEST_F(HostBadInput, AnErrorQuotesAFewHundredCharactersOfALongInput)
+{
+    const QString word(1000000, 'x');
+    const QString argument(100000, 'y'); // one argument of a command line holds 128 KiB at most
+    QFile script(host.home() + "/long.qs");
+    ASSERT_TRUE(script.open(QIODevice::WriteOnly));
+    script.write("activate " + word.toUtf8() + "\nload " + word.toUtf8() + "\nopen " +
+                 word.toUtf8() + "\n");
+    script.close();
+    QFile profile(host.home() + "/long.json");
+    ASSERT_TRUE(profile.open(QIODevice::WriteOnly));
+    profile.write("{\"" + word.toUtf8() + "\": 1}");
+    profile.close();
+
+    const QString stage = HostProcess::stageFolder();
+    const struct
+    {
+        QStringList arguments;
+        int exitCode;
+        QString message;
+    } cases[] = {
+        {{"--no-module", "long.qs"},
+         1,
+         "line 1 (" + quoted("activate " + word) + "): '" + quoted(word) +
+             "' is not a document number (1, 2, ...)"},
+        {{"--no-module", "-c", "load " + argument},
+         1,
+         "line 1 (" + quoted("load " + argument) + "): module " + quoted(argument) +
+             " not found (looked for " + quoted(argument) + ".tx in: " + stage + ")"},
+        {{"--no-module", "-c", "unload " + argument},
+         1,
+         "line 1 (" + quoted("unload " + argument) + "): module " + quoted(argument) +
+             " is not loaded"},
+        {{"--no-module", "-c", "open " + argument},
+         1,
+         "line 1 (" + quoted("open " + argument) + "): cannot open " +
+             quoted(host.home() + '/' + argument) + ": no such file"},
+        {{"--no-module", "--ui-profile", "long.json", "-c", "commands"},
+         1,
+         "UI profile long.json: /: unknown field '" + quoted(word) +
+             "' (expected one of: groups, workspaces, ribbonSystemMenu)"},
+        {{"--language", argument},
+         2,
+         "--language takes a whole number, not '" + quoted(argument) + "'"},
+        {{"--" + argument}, 2, "Unknown option '" + quoted(argument) + "'."},
+    };
+    for (const auto& each : cases) {
+        const HostResult result = host.run(each.arguments);
+        const QString message = messageOf(result);
+        SCOPED_TRACE(qPrintable(each.arguments.join(' ').left(60)));
+        EXPECT_EQ(result.exitCode, each.exitCode);
+        // A failure shows the start of a message too long to print whole.
+        if (message.size() >= 1000) {
+            ADD_FAILURE() << "a message of " << message.size()
+                          << " characters: " << qPrintable(message.left(300));
+            continue;
+        }
+        EXPECT_EQ(message, each.message);
+    }
+}

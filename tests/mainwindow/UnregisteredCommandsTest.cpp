@@ -49,6 +49,18 @@ TEST_P(UnregisteredCommandTest, TutorialDoesNothingAndEndsNormally)
     EXPECT_EQ(events.events().names(), QStringList());
 }
 
+// Never registered, they still carry their names: a host that listed the module's commands
+// would find them under these.
+TEST(UnregisteredCommandNames, AreThoseOfTheLabsPageAndTheTutorial)
+{
+    const OdStaticRxObject<CFxPlotPronto> labsPage;
+    const OdStaticRxObject<ExtTutorialCommand> tutorial;
+    EXPECT_EQ(labsPage.globalName(), OdString(L"_PLOT_PRONTO"));
+    EXPECT_EQ(labsPage.localName(), OdString(L"PLOT_PRONTO"));
+    EXPECT_EQ(tutorial.globalName(), OdString(L"_TUTORIAL"));
+    EXPECT_EQ(tutorial.localName(), OdString(L"TUTORIAL"));
+}
+
 INSTANTIATE_TEST_SUITE_P(Desktops, UnregisteredCommandTest,
                          ::testing::Values(Desktop{false, "url-opened"},
                                            Desktop{true, "url-refused"}));

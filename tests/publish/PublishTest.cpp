@@ -105,6 +105,21 @@ protected:
         ASSERT_EQ(QProcess::execute(HostProcess::stageFolder() + "/vcst-viewer", arguments), 0);
     }
 
+    // Installs the server of viewer `version` as the Python script beside this file, which is
+    // given the bus name; the registry names it the current version when it is the newest.
+    void installFakeViewer(int version, const char* script)
+    {
+        const QString name = QString("com.corvane.VcModelViewer.VcstViewer.v%1").arg(version);
+        writeFile(m_bus.serviceFolder() + '/' + name + ".service",
+                  QString("[D-BUS Service]\nName=%1\nExec=/usr/bin/python3 %2/%3 %1\n")
+                      .arg(name, EC_SOURCE_DIR "/tests/publish", QLatin1String(script))
+                      .toUtf8());
+        QSettings registry(registryFile(), QSettings::IniFormat);
+        const QString current = registry.value(kCurrentVersion).toString();
+        if (current.section('.', -1).toInt() < version)
+            registry.setValue(kCurrentVersion, QString("VcModelViewer.VcstViewer.%1").arg(version));
+    }
+
     // Runs the host with the module: each drawing opened and published in turn.
     HostResult publish(const QStringList& paths)
     {
@@ -224,20 +239,26 @@ INSTANTIATE_TEST_SUITE_P(
 // the four versions would outlast the run's limit).
 TEST_F(PublishToViewcast, ViewersThatNeverAnswerEndInTheTaskPanesNotice)
 {
-    for (int version = 9; version <= 12; ++version) {
-        const QString name = QString("com.corvane.VcModelViewer.VcstViewer.v%1").arg(version);
-        writeFile(m_bus.serviceFolder() + '/' + name + ".service",
-                  QString("[D-BUS Service]\nName=%1\nExec=/usr/bin/python3 %2 %1\n")
-                      .arg(name, EC_SOURCE_DIR "/tests/publish/black-hole.py")
-                      .toUtf8());
-    }
-    QSettings registry(registryFile(), QSettings::IniFormat);
-    registry.setValue(kCurrentVersion, "VcModelViewer.VcstViewer.12");
-    registry.sync();
+    for (int version = 9; version <= 12; ++version)
+        installFakeViewer(version, "black-hole.py");
 
     const HostResult result = publish({drawing("site/plan.dxf")});
     EXPECT_TRUE(viewerCalls(result).isEmpty());
     EXPECT_EQ(taskPaneAndErrors(result), QStringList{"showViewcastMeassage"});
+}
+
+// A version 9 viewer is opened through its own interface, which is looked for first: a server
+// that can be created but whose application lacks that interface gets no call, and the user
+// gets the notice about the viewer.
+TEST_F(PublishToViewcast, AVersionNineViewerWithoutItsInterfaceEndsInTheTaskPanesNotice)
+{
+    installFakeViewer(9, "faceless-viewer.py");
+
+    const HostResult result = publish({drawing("site/plan.dxf")});
+    EXPECT_TRUE(viewerCalls(result).isEmpty());
+    EXPECT_EQ(taskPaneAndErrors(result), QStringList{"showViewcastMeassage"});
+    EXPECT_EQ(result.events.values("file-written", "path"), QStringList{scratch("plan.dxf")})
+        << "the copy is made before the viewer is asked";
 }
 
 TEST_F(PublishToViewcast, CopiesGoIntoTheScratchFolderLosslesslyOnceEachAndOverwritingNothing)
@@ -284,6 +305,31 @@ TEST_F(PublishToViewcast, CopiesGoIntoTheScratchFolderLosslesslyOnceEachAndOverw
                            server + "opened " + scratch("café.dxf") + " café.vcst",
                            server + "no such file: " + scratch("??.dxf") + " " + scratch("??.dxf") +
                                " ??.vcst"}));
+}
+
+// Drawings on another file system than the user's home (a network share, a memory stick) are
+// copied all the same, whole: the system cannot copy between them in the kernel, and the module
+// copies block by block instead. /dev/shm stands for that other file system here.
+TEST_F(PublishToViewcast, ReferencesOnAnotherFileSystemAreCopiedWhole)
+{
+    struct stat shared = {}, home = {};
+    if (::stat("/dev/shm", &shared) != 0 || ::stat(qPrintable(m_host.home()), &home) != 0 ||
+        shared.st_dev == home.st_dev)
+        GTEST_SKIP() << "no file system apart from the test's home at /dev/shm";
+    QTemporaryDir other("/dev/shm/PublishTest-XXXXXX");
+    ASSERT_TRUE(other.isValid());
+    QString output;
+    ASSERT_EQ(python("make-drawings.py", {other.path()}, &output), 0) << output.toStdString();
+    installViewer({10});
+
+    publish({other.filePath("tree/main.dxf")});
+    for (const char* copied :
+         {"parts/a.dxf", "shared/b.dxf", "c.dxf", "far/e.dxf", "side/f.dxf", "parts/部品 ß.dxf"})
+        EXPECT_EQ(contentOf(scratch(QFileInfo(copied).fileName())),
+                  contentOf(other.filePath(QString("tree/") + copied)))
+            << copied;
+    EXPECT_EQ(QFileInfo(scratch("a.dxf")).permissions(),
+              QFileInfo(other.filePath("tree/parts/a.dxf")).permissions());
 }
 
 // What is published is the active document's drawing, not the one opened last; with no document
