@@ -11,9 +11,9 @@
 
 TEST(RibbonMembers, UnloadRibbonMenuTakesAnyRowsPanelWithItsLastButton)
 {
-    auto owned = std::make_unique<CFxUI>();
+    auto owned = std::make_unique<CFxHostUI>();
     CFxUIJsonReader::readFile(kDefaultProfile, *owned);
-    CFxUI& ui = *owned;
+    CFxHostUI& ui = *owned;
     GetFxHostServices()->SetUI(std::move(owned));
     RibbonMenuItemWrapper* wrapper = RibbonMenuItemWrapper::GetRibbonMenuItemWrapperInstance();
     RibbonItem item = record("ID_MEMBERS_TOOL");
