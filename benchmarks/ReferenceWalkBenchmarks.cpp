@@ -5,7 +5,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <OdDbDatabase.h>
+#include <OdDbDxfDatabase.h>
 #include <OdDbXrefGraph.h>
 #include <benchmark/benchmark.h>
 
@@ -57,7 +57,7 @@ void ReferenceWalk(benchmark::State& state)
     const int referenced =
         writeTree(folder.path(), static_cast<int>(state.range(0)), static_cast<int>(state.range(1)),
                   static_cast<int>(state.range(2)));
-    const OdDbDatabasePtr root = OdDbDatabase::readFile(toOdString(folder.filePath("0-0.dxf")));
+    const OdDbDatabasePtr root = OdDbDxfDatabase::readFile(toOdString(folder.filePath("0-0.dxf")));
     for (auto _ : state) {
         OdDbXrefGraph graph;
         OdDbXrefGraph::getFrom(root.get(), graph);

@@ -1,7 +1,7 @@
 // Look-ups of the host's user-interface model in lists of N entries: a command by
 // identifier in the main group, a button of a row by identifier in another letter case, and
 // reading a list by index from first to last.
-#include <CFxUI.h>
+#include <CFxHostUI.h>
 #include <benchmark/benchmark.h>
 
 #include <vector>
@@ -30,7 +30,7 @@ struct Model
             lowerCase.push_back(CFxString(identifier(i).toQString().toLower()));
     }
 
-    CFxUI ui;
+    CFxHostUI ui;
     CFxUIGroup* group;
     CFxUIRibbonRow* row;
     std::vector<CFxString> wanted;

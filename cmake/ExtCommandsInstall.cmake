@@ -2,7 +2,8 @@
 # module's exported ribbon interface. `cmake --install` puts into the prefix:
 #   include/ExtCommands/           the public headers (RibbonItem, the exported functions, the
 #                                  don't-show-again box with its generated form)
-#   include/ExtCommands/sdk/...    the headers of the platform and kernel libraries
+#   include/ExtCommands/sdk/...    the module-facing headers of the platform and kernel libraries
+#                                  (never the host's side: docs/sdk.md)
 #   lib/                           TD_Root, TD_Db, FxKernel and the ExtCommands module itself
 #   lib/cmake/ExtCommands/         the package: find_package(ExtCommands) gives the imported
 #                                  targets ExtCommands::ExtCommands, ExtCommands::FxKernel,
@@ -47,10 +48,11 @@ install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/ExtCommands"
     FILES_MATCHING PATTERN "*.h")
 install(FILES "${EC_FORM_HEADER_DIR}/ui_CDontShowAgainMessageBox.h"
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ExtCommands)
-install(DIRECTORY "${PROJECT_SOURCE_DIR}/sdk/platform/"
+# Only what a module sees of the platform and the kernel; the host's side stays here.
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/sdk/platform/include/"
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ExtCommands/sdk/platform
     FILES_MATCHING PATTERN "*.h")
-install(DIRECTORY "${PROJECT_SOURCE_DIR}/sdk/kernel/"
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/sdk/kernel/include/"
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ExtCommands/sdk/kernel
     FILES_MATCHING PATTERN "*.h")
 

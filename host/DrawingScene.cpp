@@ -2,7 +2,7 @@
 
 #include "DrawingSceneBuilder.h"
 
-std::shared_ptr<const DrawingScene> DrawingScene::of(const OdDbDatabase& database)
+std::shared_ptr<const DrawingScene> DrawingScene::of(const OdDbDxfDatabase& database)
 {
     return DrawingSceneBuilder(database).build();
 }

@@ -10,7 +10,7 @@
 
 #include <memory>
 
-class OdDbDatabase;
+class OdDbDxfDatabase;
 
 // What the canvas draws of a drawing, in the drawing's own coordinates (y up): its lines,
 // polylines, circles, arcs and texts, with the block references drawn out, referenced
@@ -47,7 +47,7 @@ public:
     };
 
     // The scene of `database`; referenced drawings are looked for beside it.
-    static std::shared_ptr<const DrawingScene> of(const OdDbDatabase& database);
+    static std::shared_ptr<const DrawingScene> of(const OdDbDxfDatabase& database);
 
     const QVector<QLineF>& lines() const { return m_lines; }
     const QVector<QPolygonF>& polylines() const { return m_polylines; }

@@ -4,7 +4,7 @@
 #include <QRegularExpression>
 #include <QtMath>
 
-#include <OdDbDatabase.h>
+#include <OdDbDxfDatabase.h>
 #include <OdDxfGroup.h>
 #include <OdError.h>
 
@@ -71,7 +71,7 @@ QString plainMText(QString text)
 }
 } // namespace
 
-DrawingSceneBuilder::DrawingSceneBuilder(const OdDbDatabase& database)
+DrawingSceneBuilder::DrawingSceneBuilder(const OdDbDxfDatabase& database)
 {
     m_main.folder = QFileInfo(toQString(database.getFilename())).absoluteDir();
     m_main.readable = true;
@@ -278,7 +278,7 @@ const DrawingSceneBuilder::Drawing* DrawingSceneBuilder::read(const QString& abs
         return known->second.get();
     std::unique_ptr<Drawing> drawing;
     try {
-        const OdDbDatabasePtr database = OdDbDatabase::readFile(toOdString(absolutePath));
+        const OdDbDxfDatabasePtr database = OdDbDxfDatabase::readFile(toOdString(absolutePath));
         drawing = std::make_unique<Drawing>();
         drawing->folder = QFileInfo(absolutePath).absoluteDir();
         drawing->readable = true;

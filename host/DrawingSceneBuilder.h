@@ -18,7 +18,7 @@ class OdDxfGroup;
 class DrawingSceneBuilder
 {
 public:
-    explicit DrawingSceneBuilder(const OdDbDatabase& database);
+    explicit DrawingSceneBuilder(const OdDbDxfDatabase& database);
 
     std::shared_ptr<const DrawingScene> build();
 

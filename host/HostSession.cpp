@@ -16,15 +16,15 @@
 
 #include <CFxCommandContext.h>
 #include <CFxHostServices.h>
+#include <CFxHostUI.h>
 #include <CFxTextFile.h>
-#include <CFxUI.h>
 #include <CFxUIJsonReader.h>
 #include <CFxUIJsonWriter.h>
-#include <OdDbDatabase.h>
-#include <OdEdCommandStack.h>
+#include <OdDbDxfDatabase.h>
 #include <OdError.h>
 #include <OdEventLog.h>
-#include <OdRxDynamicLinker.h>
+#include <OdHostCommandStack.h>
+#include <OdHostDynamicLinker.h>
 #include <OdStaticRxObject.h>
 
 #if !defined(_WIN32)
@@ -115,7 +115,7 @@ void HostSession::start()
         searchPath.push_back(toOdString(QFileInfo(folder).absoluteFilePath()));
     if (searchPath.empty())
         searchPath.push_back(toOdString(programFolder()));
-    odrxDynamicLinker()->setSearchPath(searchPath);
+    odrxHostDynamicLinker()->setSearchPath(searchPath);
     services->SetInstallationId(installationId());
     useRegistryStandIn(m_options.registryFile);
     loadUiProfile();
@@ -134,7 +134,7 @@ QString HostSession::defaultUiProfile()
 
 void HostSession::loadUiProfile()
 {
-    auto ui = std::make_unique<CFxUI>();
+    auto ui = std::make_unique<CFxHostUI>();
     try {
         CFxUIJsonReader::readFile(
             m_options.uiProfile.isEmpty() ? defaultUiProfile() : m_options.uiProfile, *ui);
@@ -163,7 +163,7 @@ void HostSession::shutdown()
     if (m_mainFrame)
         destroyMainFrame();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    odrxDynamicLinker()->unloadAll();
+    odrxHostDynamicLinker()->unloadAll();
 }
 
 void HostSession::WindowDeleter::operator()(HostWindow* window) const
@@ -195,7 +195,7 @@ void HostSession::createMainFrame()
                              [this] { destroyMainFrame(); });
             m_mainFrame->show();
         }
-        if (CFxUI* ui = GetFxSystemServices()->GetUI())
+        if (CFxHostUI* ui = GetFxHostServices()->GetUI())
             ui->SetUpdateHandler([this] { scheduleRefresh(); });
     }
     GetFxHostServices()->MainFrameCreated(m_mainFrame.get());
@@ -207,7 +207,7 @@ void HostSession::destroyMainFrame()
     if (!m_mainFrame)
         throw HostError(QStringLiteral("there is no main window to destroy"));
     GetFxHostServices()->MainFrameDestroyed(m_mainFrame.get());
-    if (CFxUI* ui = GetFxSystemServices()->GetUI())
+    if (CFxHostUI* ui = GetFxHostServices()->GetUI())
         ui->SetUpdateHandler({});
     m_mainFrame.reset();
     if (m_onClose)
@@ -221,7 +221,7 @@ void HostSession::refreshWindow()
         return;
     // Not only after an Update(): a module may change the model without asking (loading a
     // ribbon button does not), and the window compares what it shows with the model.
-    if (const CFxUI* ui = GetFxSystemServices()->GetUI())
+    if (const CFxHostUI* ui = GetFxHostServices()->GetUI())
         m_mainFrame->showModel(*ui);
     m_mainFrame->showDocument(ACTIVE_DOCUMENT);
 }
@@ -244,7 +244,7 @@ void HostSession::scheduleRefresh()
 QStringList HostSession::completions()
 {
     QStringList names = ScriptRunner::statementKeywords();
-    for (const OdEdCommand* command : odedRegCmds()->commands())
+    for (const OdEdCommand* command : odedHostRegCmds()->commands())
         names << toQString(command->localName()) << toQString(command->globalName());
     return names;
 }
@@ -252,7 +252,7 @@ QStringList HostSession::completions()
 void HostSession::loadModule(const QString& name)
 {
     try {
-        odrxDynamicLinker()->loadModule(toOdString(name), false);
+        odrxHostDynamicLinker()->loadModule(toOdString(name), false);
     } catch (const OdError& error) {
         throw HostError(QuotedText::within(toQString(error.description()), {name}));
     }
@@ -260,9 +260,9 @@ void HostSession::loadModule(const QString& name)
 
 void HostSession::unloadModule(const QString& name)
 {
-    if (odrxDynamicLinker()->getModule(toOdString(name)).isNull())
+    if (odrxHostDynamicLinker()->getModule(toOdString(name)).isNull())
         throw HostError(QStringLiteral("module %1 is not loaded").arg(QuotedText::of(name)));
-    odrxDynamicLinker()->unloadModule(toOdString(name));
+    odrxHostDynamicLinker()->unloadModule(toOdString(name));
 }
 
 void HostSession::openDocument(const QString& path)
@@ -275,25 +275,25 @@ void HostSession::openDocument(const QString& path)
     const QFileInfo file(path);
     OdDbDatabasePtr database;
     try {
-        database = OdDbDatabase::readFile(toOdString(file.absoluteFilePath()));
+        database = OdDbDxfDatabase::readFile(toOdString(file.absoluteFilePath()));
     } catch (const OdError& error) {
         std::fprintf(stderr, "quillon-host: warning: %s; it opens as a drawing never saved\n",
                      qUtf8Printable(QuotedText::within(toQString(error.description()),
                                                        {file.absoluteFilePath()})));
     }
-    GetFxSystemServices()->GetDocumentManager()->OpenDocument(file.absoluteFilePath(),
-                                                              std::move(database));
+    GetFxHostServices()->GetDocumentManager()->OpenDocument(file.absoluteFilePath(),
+                                                            std::move(database));
 }
 
 void HostSession::activateDocument(int index)
 {
-    if (!GetFxSystemServices()->GetDocumentManager()->ActivateDocument(index))
+    if (!GetFxHostServices()->GetDocumentManager()->ActivateDocument(index))
         throw HostError(QStringLiteral("there is no open document %1").arg(index));
 }
 
 void HostSession::closeDocument(int index)
 {
-    if (!GetFxSystemServices()->GetDocumentManager()->CloseDocument(index))
+    if (!GetFxHostServices()->GetDocumentManager()->CloseDocument(index))
         throw HostError(QStringLiteral("there is no open document %1").arg(index));
 }
 
@@ -304,7 +304,7 @@ void HostSession::runCommandLine(const QString& name, const QStringList& answers
                                                 active ? active->GetFxDatabase() : nullptr);
     bool found = false;
     try {
-        found = odedRegCmds()->executeCommand(toOdString(name), &context);
+        found = odedHostRegCmds()->executeCommand(toOdString(name), &context);
     } catch (const OdError& error) {
         throw HostError(QStringLiteral("command %1: %2")
                             .arg(QuotedText::of(name),
@@ -324,7 +324,7 @@ void HostSession::reportUi()
 {
     // Written as text while the model is walked: a model nested thousands deep would take
     // memory growing with the square of its depth as a QJsonObject, and Qt's writer recurses.
-    const CFxUI* ui = GetFxSystemServices()->GetUI();
+    const CFxHostUI* ui = GetFxHostServices()->GetUI();
     OdEventLog::report(QStringLiteral("ui"), {}, QStringLiteral("model"), [ui](bool compact) {
         return ui ? CFxUIJsonWriter::writeText(*ui, compact)
                   : QByteArray(compact ? "{}" : "{\n}\n");
@@ -334,7 +334,7 @@ void HostSession::reportUi()
 void HostSession::reportCommands()
 {
     QJsonArray names;
-    for (const OdEdCommand* command : odedRegCmds()->commands())
+    for (const OdEdCommand* command : odedHostRegCmds()->commands())
         names.append(toQString(command->localName()));
     OdEventLog::report(QStringLiteral("commands"), {{QStringLiteral("names"), names}});
 }
@@ -372,7 +372,7 @@ void HostSession::settle()
     m_refreshPending = false;
     QCoreApplication::sendPostedEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    odrxDynamicLinker()->unloadUnreferenced();
+    odrxHostDynamicLinker()->unloadUnreferenced();
     if (m_translations)
         m_translations->statementEnded();
     refreshWindow();

@@ -18,9 +18,10 @@
 #include <QVBoxLayout>
 
 #include <CFxDocument.h>
-#include <CFxDocumentManager.h>
-#include <CFxSystemServices.h>
-#include <CFxUI.h>
+#include <CFxHostDocumentManager.h>
+#include <CFxHostServices.h>
+#include <CFxHostUI.h>
+#include <OdDbDxfDatabase.h>
 
 HostWindow::HostWindow(QWidget* parent)
     : QMainWindow(parent), m_ribbon(new RibbonWidget), m_canvas(new DrawingCanvas),
@@ -72,7 +73,7 @@ HostWindow::HostWindow(QWidget* parent)
 
 HostWindow::~HostWindow() = default;
 
-void HostWindow::showModel(const CFxUI& ui)
+void HostWindow::showModel(const CFxHostUI& ui)
 {
     const quint64 signature = UiSignature::ofMenuBar(ui);
     if (!m_hasMenuBar || signature != m_menuBarSignature) {
@@ -87,7 +88,7 @@ void HostWindow::showDocument(const CFxDocument* document)
 {
     const int index = document ? document->GetIndex() : 0;
     for (auto at = m_scenes.begin(); at != m_scenes.end();) {
-        if (GetFxSystemServices()->GetDocumentManager()->GetDocument(at.key()))
+        if (GetFxHostServices()->GetDocumentManager()->GetDocument(at.key()))
             ++at;
         else
             at = m_scenes.erase(at);
@@ -104,7 +105,7 @@ void HostWindow::showDocument(const CFxDocument* document)
     const QString name = QFileInfo(document->GetPathName()).fileName();
     setWindowTitle(QStringLiteral("Quillon - [%1]").arg(name));
     std::shared_ptr<const DrawingScene>& scene = m_scenes[index];
-    const OdDbDatabase* database = document->GetFxDatabase();
+    const OdDbDxfDatabasePtr database = OdDbDxfDatabase::cast(document->GetFxDatabase());
     if (!scene && database)
         scene = DrawingScene::of(*database);
     m_canvas->setScene(scene);
@@ -151,7 +152,7 @@ void HostWindow::closeEvent(QCloseEvent* event)
     emit closeRequested();
 }
 
-void HostWindow::buildMenuBar(const CFxUI& ui)
+void HostWindow::buildMenuBar(const CFxHostUI& ui)
 {
     for (QMenu* old : menuBar()->findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly))
         old->deleteLater();

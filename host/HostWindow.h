@@ -7,7 +7,7 @@
 #include <memory>
 
 class CFxDocument;
-class CFxUI;
+class CFxHostUI;
 class CommandLineEdit;
 class DrawingCanvas;
 class DrawingScene;
@@ -27,7 +27,7 @@ public:
     ~HostWindow() override;
 
     // Shows the user-interface model as it is now; parts that did not change stay as they are.
-    void showModel(const CFxUI& ui);
+    void showModel(const CFxHostUI& ui);
     // Shows the drawing of `document` (null: none). A document keeps its picture while it is
     // open, so switching back is immediate.
     void showDocument(const CFxDocument* document);
@@ -50,7 +50,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void buildMenuBar(const CFxUI& ui);
+    void buildMenuBar(const CFxHostUI& ui);
 
     RibbonWidget* m_ribbon;
     DrawingCanvas* m_canvas;

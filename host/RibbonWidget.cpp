@@ -13,7 +13,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include <CFxUI.h>
+#include <CFxHostUI.h>
 
 namespace {
 bool hidden(const CFxString& text)
@@ -21,7 +21,7 @@ bool hidden(const CFxString& text)
     return text.toQString().startsWith(QLatin1Char('~'));
 }
 
-const CFxUIGroup* mainGroup(const CFxUI& ui)
+const CFxUIGroup* mainGroup(const CFxHostUI& ui)
 {
     for (const CFxUIGroup* group : ui.GetMenuGroups()) {
         if (group->IsMainGroup())
@@ -52,7 +52,8 @@ void onFirstShow(QObject* context, QMenu* menu, Fill fill)
 // The tab that the ribbon holds under `identifier`: the main group's, else the first other
 // group's (the reference group is a copy the ribbon never shows); null when no group holds
 // one, as for a tab that lost its last panel.
-const CFxUIRibbonTab* heldTab(const CFxUI& ui, const CFxUIGroup* main, const CFxString& identifier)
+const CFxUIRibbonTab* heldTab(const CFxHostUI& ui, const CFxUIGroup* main,
+                              const CFxString& identifier)
 {
     if (main) {
         if (const CFxUIRibbonTab* tab = main->GetRibbonTabs().FindFirst(identifier))
@@ -95,7 +96,7 @@ RibbonWidget::RibbonWidget(QWidget* parent)
     });
 }
 
-std::vector<const CFxUIRibbonTab*> RibbonWidget::shownTabs(const CFxUI& ui)
+std::vector<const CFxUIRibbonTab*> RibbonWidget::shownTabs(const CFxHostUI& ui)
 {
     std::vector<const CFxUIRibbonTab*> tabs;
     const CFxUIWorkspace* workspace = ui.FindWorkspace(workspaceName());
@@ -114,13 +115,13 @@ std::vector<const CFxUIRibbonTab*> RibbonWidget::shownTabs(const CFxUI& ui)
     return tabs;
 }
 
-void RibbonWidget::showModel(const CFxUI& ui)
+void RibbonWidget::showModel(const CFxHostUI& ui)
 {
     showTabs(ui);
     resetSystemMenus(ui);
 }
 
-void RibbonWidget::showTabs(const CFxUI& ui)
+void RibbonWidget::showTabs(const CFxHostUI& ui)
 {
     const std::vector<const CFxUIRibbonTab*> tabs = shownTabs(ui);
     bool sameTabs = tabs.size() == m_shown.size();
@@ -267,7 +268,7 @@ void RibbonWidget::fillSplitMenu(QMenu* menu, const CFxUIRibbonButton& button)
     }
 }
 
-void RibbonWidget::resetSystemMenus(const CFxUI& ui)
+void RibbonWidget::resetSystemMenus(const CFxHostUI& ui)
 {
     const quint64 signature = UiSignature::ofSystemMenus(ui);
     if (m_hasSystemMenus && signature == m_systemMenusSignature)

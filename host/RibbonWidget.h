@@ -4,7 +4,7 @@
 
 #include <vector>
 
-class CFxUI;
+class CFxHostUI;
 class CFxUICommand;
 class CFxUIRibbonButton;
 class CFxUIRibbonPanel;
@@ -30,14 +30,14 @@ class RibbonWidget : public QWidget
 public:
     explicit RibbonWidget(QWidget* parent = nullptr);
 
-    void showModel(const CFxUI& ui);
+    void showModel(const CFxHostUI& ui);
 
     // The workspace whose tabs are shown.
     static const char* workspaceName() { return "Drafting and Annotation"; }
     // The tabs shown for the workspace: each identifier it lists once (letter case does not
     // matter), where it is first listed, as the tab that the main group holds under it (else
     // another group than the reference group); an identifier no group holds is left out.
-    static std::vector<const CFxUIRibbonTab*> shownTabs(const CFxUI& ui);
+    static std::vector<const CFxUIRibbonTab*> shownTabs(const CFxHostUI& ui);
 
 signals:
     void macroTriggered(const QString& macro);
@@ -50,7 +50,7 @@ private:
         bool built;
     };
 
-    void showTabs(const CFxUI& ui);
+    void showTabs(const CFxHostUI& ui);
     // Builds the page of the tab at `index` when it was never built or its tab changed.
     void showPage(int index);
     void buildPage(int index);
@@ -60,7 +60,7 @@ private:
     void fillSplitMenu(QMenu* menu, const CFxUIRibbonButton& button);
     void fillSystemMenuOnShow(QMenu* menu, const CFxUIRibbonSystemMenuItem& parent);
     void fillSystemMenu(QMenu* menu, const CFxUIRibbonSystemMenuItem& parent);
-    void resetSystemMenus(const CFxUI& ui);
+    void resetSystemMenus(const CFxHostUI& ui);
     void connectCommand(QObject* trigger, const CFxUICommand* command);
 
     QToolButton* m_applicationButton;

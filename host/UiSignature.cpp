@@ -1,6 +1,6 @@
 #include "UiSignature.h"
 
-#include <CFxUI.h>
+#include <CFxHostUI.h>
 
 #include <algorithm>
 #include <cstring>
@@ -110,7 +110,7 @@ quint64 UiSignature::ofTab(const CFxUIRibbonTab& tab)
     return print.value();
 }
 
-quint64 UiSignature::ofMenuBar(const CFxUI& ui)
+quint64 UiSignature::ofMenuBar(const CFxHostUI& ui)
 {
     Fingerprint print;
     print.add(static_cast<const void*>(ui.GetReferenceMenuGroup()));
@@ -134,7 +134,7 @@ quint64 UiSignature::ofMenuBar(const CFxUI& ui)
     return print.value();
 }
 
-quint64 UiSignature::ofSystemMenus(const CFxUI& ui)
+quint64 UiSignature::ofSystemMenus(const CFxHostUI& ui)
 {
     Fingerprint print;
     for (const CFxUIGroup* group : ui.GetMenuGroups()) {

@@ -2,7 +2,7 @@
 
 #include <QtGlobal>
 
-class CFxUI;
+class CFxHostUI;
 class CFxUIRibbonSystemMenuItem;
 class CFxUIRibbonTab;
 
@@ -14,7 +14,7 @@ class UiSignature
 {
 public:
     static quint64 ofTab(const CFxUIRibbonTab& tab);
-    static quint64 ofMenuBar(const CFxUI& ui);
+    static quint64 ofMenuBar(const CFxHostUI& ui);
     // The application menu of the main group and the ribbon's system menu.
-    static quint64 ofSystemMenus(const CFxUI& ui);
+    static quint64 ofSystemMenus(const CFxHostUI& ui);
 };

@@ -6,7 +6,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
-#include <OdDbDatabase.h>
+#include <OdDbDxfDatabase.h>
 #include <OdError.h>
 #include <VcModelViewerAutomation.h>
 
@@ -56,7 +56,7 @@ QString ViewerApplication::check(const QVariantList& arguments)
     if (!QFileInfo(path).isFile())
         return QStringLiteral("no such file: %1").arg(path);
     try {
-        OdDbDatabase::readFile(toOdString(path));
+        OdDbDxfDatabase::readFile(toOdString(path));
     } catch (const OdError& error) {
         return QString::fromUtf8(error.what());
     }

@@ -33,8 +33,8 @@ add_subdirectory("${PROJECT_SOURCE_DIR}/samples/SampleSibling" "${CMAKE_BINARY_D
 # Every installed public header, in one translation unit compiled as a sibling compiles it.
 file(GLOB EC_PUBLIC_HEADERS CONFIGURE_DEPENDS
      "${PROJECT_SOURCE_DIR}/include/ExtCommands/*.h"
-     "${PROJECT_SOURCE_DIR}/sdk/platform/*.h"
-     "${PROJECT_SOURCE_DIR}/sdk/kernel/*.h")
+     "${PROJECT_SOURCE_DIR}/sdk/platform/include/*.h"
+     "${PROJECT_SOURCE_DIR}/sdk/kernel/include/*.h")
 set(EC_HEADER_INCLUDES "")
 foreach(header IN LISTS EC_PUBLIC_HEADERS)
     string(APPEND EC_HEADER_INCLUDES "#include \"${header}\"\n")

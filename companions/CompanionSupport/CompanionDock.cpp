@@ -5,7 +5,7 @@
 #include <QMainWindow>
 #include <QVariant>
 
-#include <CFxSystemServices.h>
+#include <CFxHostServices.h>
 
 namespace {
 // Docks of companions carry this property, so that a new one finds the others to tab with.
@@ -31,7 +31,7 @@ CompanionDock::~CompanionDock()
 
 QMainWindow* CompanionDock::mainWindow()
 {
-    return qobject_cast<QMainWindow*>(GetFxSystemServices()->GetMainFrame());
+    return qobject_cast<QMainWindow*>(GetFxHostServices()->GetMainFrame());
 }
 
 QDockWidget* CompanionDock::dock() const

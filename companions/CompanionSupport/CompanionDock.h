@@ -7,7 +7,7 @@
 class CompanionDockWaiter;
 class QMainWindow;
 
-// A companion's dock in the host's main window (GetFxSystemServices()->GetMainFrame()). The
+// A companion's dock in the host's main window (GetFxHostServices()->GetMainFrame()). The
 // dock belongs to the window: it goes when the window goes, and a new window gets a new dock.
 // Companions dock on the right, each one a tab of the same area.
 class CompanionDock

@@ -5,9 +5,9 @@
 #include <QWidget>
 
 #include <CFxHostServices.h>
-#include <CFxUI.h>
+#include <CFxHostUI.h>
 #include <CFxUIJsonReader.h>
-#include <OdRxDynamicLinker.h>
+#include <OdHostDynamicLinker.h>
 #include <private/qcoreapplication_p.h>
 
 #include <memory>
@@ -18,7 +18,7 @@ const wchar_t kModule[] = L"ExtCommands";
 
 ModuleUnderTest::ModuleUnderTest() : m_mainFrame(nullptr)
 {
-    auto ui = std::make_unique<CFxUI>();
+    auto ui = std::make_unique<CFxHostUI>();
     CFxUIJsonReader::readFile(QStringLiteral(EC_SOURCE_DIR "/host/profiles/default.json"), *ui);
     GetFxHostServices()->SetUI(std::move(ui));
     loadModule();
@@ -40,8 +40,8 @@ void ModuleUnderTest::loadModule()
     if (loaded)
         return;
     // The companion libraries come from the library search path that ./fuzz gives the program.
-    odrxDynamicLinker()->setSearchPath({toOdString(QStringLiteral(EC_STAGE_DIR))});
-    odrxDynamicLinker()->loadModule(OdString(kModule), false);
+    odrxHostDynamicLinker()->setSearchPath({toOdString(QStringLiteral(EC_STAGE_DIR))});
+    odrxHostDynamicLinker()->loadModule(OdString(kModule), false);
     loaded = true;
 }
 
@@ -66,7 +66,7 @@ void ModuleUnderTest::emptyLoadedItems()
 void ModuleUnderTest::resolveEntries()
 {
     static_cast<RibbonEntryPoints&>(*this) = RibbonEntryPoints::find(
-        odrxDynamicLinker()->loadModule(OdString(kModule), false)->moduleName());
+        odrxHostDynamicLinker()->loadModule(OdString(kModule), false)->moduleName());
 }
 
 void ModuleUnderTest::mainFrameCreated()

@@ -4,7 +4,7 @@
 #include "ModuleUnderTest.h"
 #include "UiInvariants.h"
 
-#include <CFxSystemServices.h>
+#include <CFxHostServices.h>
 
 namespace {
 constexpr int kMaxSteps = 48;
@@ -76,7 +76,7 @@ void RibbonCallSequence::step()
         const QString id = identifier();
         const bool visible = m_input.ConsumeBool();
         m_module.setVisibility(id, visible);
-        FuzzFailure::check(UiInvariants::visibility(*GetFxSystemServices()->GetUI(), id, visible));
+        FuzzFailure::check(UiInvariants::visibility(*GetFxHostServices()->GetUI(), id, visible));
         break;
     }
     case 4:
@@ -114,7 +114,7 @@ void RibbonCallSequence::loadRecord()
 
 void RibbonCallSequence::checkAfter(bool unloaded)
 {
-    const CFxUI& ui = *GetFxSystemServices()->GetUI();
+    const CFxHostUI& ui = *GetFxHostServices()->GetUI();
     FuzzFailure::check(UiInvariants::rowsAndMarks(ui));
     FuzzFailure::check(UiInvariants::orderedButtons(ui));
     FuzzFailure::check(UiInvariants::noEmptyAddIns(ui, unloaded));

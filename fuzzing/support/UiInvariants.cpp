@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-#include <CFxUI.h>
+#include <CFxHostUI.h>
 #include <CFxUIGroup.h>
 #include <CFxUIRibbonButton.h>
 #include <CFxUIRibbonPanel.h>
@@ -35,7 +35,7 @@ T* first(const CFxUIList<T>& list, const QString& id)
     return nullptr;
 }
 
-CFxUIRibbonTab* addInsTab(const CFxUI& ui)
+CFxUIRibbonTab* addInsTab(const CFxHostUI& ui)
 {
     const CFxUIGroup* group = UiInvariants::mainGroup(ui);
     return group ? first(group->GetRibbonTabs(), kAddInsTab) : nullptr;
@@ -74,7 +74,7 @@ QString duplicatesIn(const CFxUIRibbonRow& row)
 }
 } // namespace
 
-CFxUIGroup* UiInvariants::mainGroup(const CFxUI& ui)
+CFxUIGroup* UiInvariants::mainGroup(const CFxHostUI& ui)
 {
     for (CFxUIGroup* group : ui.GetMenuGroups()) {
         if (group->IsMainGroup())
@@ -83,7 +83,7 @@ CFxUIGroup* UiInvariants::mainGroup(const CFxUI& ui)
     return nullptr;
 }
 
-CFxUIRibbonRow* UiInvariants::addInsRow(const CFxUI& ui)
+CFxUIRibbonRow* UiInvariants::addInsRow(const CFxHostUI& ui)
 {
     const CFxUIRibbonTab* tab = addInsTab(ui);
     if (!tab)
@@ -97,7 +97,7 @@ CFxUIRibbonRow* UiInvariants::addInsRow(const CFxUI& ui)
     return nullptr;
 }
 
-QString UiInvariants::rowsAndMarks(const CFxUI& ui)
+QString UiInvariants::rowsAndMarks(const CFxHostUI& ui)
 {
     const CFxUIGroup* group = mainGroup(ui);
     if (!group)
@@ -114,7 +114,7 @@ QString UiInvariants::rowsAndMarks(const CFxUI& ui)
     return {};
 }
 
-QString UiInvariants::orderedButtons(const CFxUI& ui)
+QString UiInvariants::orderedButtons(const CFxHostUI& ui)
 {
     const CFxUIRibbonRow* row = addInsRow(ui);
     if (!row)
@@ -134,7 +134,7 @@ QString UiInvariants::orderedButtons(const CFxUI& ui)
     return {};
 }
 
-QString UiInvariants::noEmptyAddIns(const CFxUI& ui, bool afterUnload)
+QString UiInvariants::noEmptyAddIns(const CFxHostUI& ui, bool afterUnload)
 {
     const CFxUIRibbonTab* tab = addInsTab(ui);
     if (tab && tab->GetPanels().GetCount() == 0)
@@ -145,7 +145,7 @@ QString UiInvariants::noEmptyAddIns(const CFxUI& ui, bool afterUnload)
     return {};
 }
 
-QString UiInvariants::visibility(const CFxUI& ui, const QString& id, bool visible)
+QString UiInvariants::visibility(const CFxHostUI& ui, const QString& id, bool visible)
 {
     const CFxUIRibbonRow* row = addInsRow(ui);
     if (!row)
@@ -165,7 +165,7 @@ QString UiInvariants::visibility(const CFxUI& ui, const QString& id, bool visibl
     return {};
 }
 
-QString UiInvariants::exportTableEntries(const CFxUI& ui)
+QString UiInvariants::exportTableEntries(const CFxHostUI& ui)
 {
     const CFxUIGroup* group = mainGroup(ui);
     if (!group)

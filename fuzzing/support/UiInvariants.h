@@ -2,7 +2,7 @@
 
 #include <QString>
 
-class CFxUI;
+class CFxHostUI;
 class CFxUIRibbonRow;
 class CFxUIGroup;
 
@@ -11,21 +11,21 @@ class CFxUIGroup;
 class UiInvariants
 {
 public:
-    static CFxUIGroup* mainGroup(const CFxUI& ui);
+    static CFxUIGroup* mainGroup(const CFxHostUI& ui);
     // The Add-Ins row, found as the module finds it; null when there is none.
-    static CFxUIRibbonRow* addInsRow(const CFxUI& ui);
+    static CFxUIRibbonRow* addInsRow(const CFxHostUI& ui);
 
     // No row of the main group's tabs holds two buttons with one identifier (letter case
     // aside), and no button anywhere carries the hidden mark "~" twice.
-    static QString rowsAndMarks(const CFxUI& ui);
+    static QString rowsAndMarks(const CFxHostUI& ui);
     // The buttons of the Add-Ins row that the ribbon orders stand in their order.
-    static QString orderedButtons(const CFxUI& ui);
+    static QString orderedButtons(const CFxHostUI& ui);
     // The Add-Ins tab, where the main group shows it, holds a panel; after an unload, the
     // Add-Ins row is gone or holds a button.
-    static QString noEmptyAddIns(const CFxUI& ui, bool afterUnload);
+    static QString noEmptyAddIns(const CFxHostUI& ui, bool afterUnload);
     // The entries `id` of the data-management split button are marked hidden exactly when
     // `visible` is false.
-    static QString visibility(const CFxUI& ui, const QString& id, bool visible);
+    static QString visibility(const CFxHostUI& ui, const QString& id, bool visible);
     // The application menu holds the export-table entry at most once under each parent.
-    static QString exportTableEntries(const CFxUI& ui);
+    static QString exportTableEntries(const CFxHostUI& ui);
 };

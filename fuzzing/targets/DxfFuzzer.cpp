@@ -10,7 +10,7 @@
 #include <QDir>
 #include <QFile>
 
-#include <OdDbDatabase.h>
+#include <OdDbDxfDatabase.h>
 #include <OdDbXrefGraph.h>
 #include <OdError.h>
 #include <OdRxSystemServices.h>
@@ -48,7 +48,7 @@ QString saveDrawings(const QByteArray& input)
     return folder;
 }
 
-void checkWrittenBack(const OdDbDatabase& database, const QString& folder)
+void checkWrittenBack(const OdDbDxfDatabase& database, const QString& folder)
 {
     const QString copy = folder + QStringLiteral("/written.dxf");
     database.writeFile(
@@ -56,9 +56,9 @@ void checkWrittenBack(const OdDbDatabase& database, const QString& folder)
             ->createFile(toOdString(copy), Oda::kFileWrite, Oda::kShareDenyNo, Oda::kCreateAlways)
             .get(),
         OdDb::kDxf, static_cast<OdDb::DwgVersion>(27));
-    OdDbDatabasePtr again;
+    OdDbDxfDatabasePtr again;
     try {
-        again = OdDbDatabase::readFile(toOdString(copy));
+        again = OdDbDxfDatabase::readFile(toOdString(copy));
     } catch (const OdError& error) {
         FuzzFailure::report(QStringLiteral("a written drawing cannot be read: ") + error.what());
     }
@@ -123,9 +123,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     const QString folder =
         saveDrawings(QByteArray(reinterpret_cast<const char*>(data), static_cast<int>(size)));
-    OdDbDatabasePtr database;
+    OdDbDxfDatabasePtr database;
     try {
-        database = OdDbDatabase::readFile(toOdString(folder + QStringLiteral("/a.dxf")));
+        database = OdDbDxfDatabase::readFile(toOdString(folder + QStringLiteral("/a.dxf")));
     } catch (const OdError&) {
         return 0;
     }

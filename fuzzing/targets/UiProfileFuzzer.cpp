@@ -7,7 +7,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <CFxUI.h>
+#include <CFxHostUI.h>
 #include <CFxUIJsonReader.h>
 #include <CFxUIJsonWriter.h>
 #include <OdError.h>
@@ -16,7 +16,7 @@
 #include <cstdint>
 
 namespace {
-QByteArray written(const CFxUI& ui)
+QByteArray written(const CFxHostUI& ui)
 {
     return QJsonDocument(CFxUIJsonWriter::write(ui)).toJson(QJsonDocument::Compact);
 }
@@ -34,14 +34,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         QByteArray::fromRawData(reinterpret_cast<const char*>(data), static_cast<int>(size)));
     if (!document.isObject())
         return 0;
-    CFxUI first;
+    CFxHostUI first;
     try {
         CFxUIJsonReader::read(document.object(), first);
     } catch (const OdError&) {
         return 0;
     }
     const QByteArray once = written(first);
-    CFxUI second;
+    CFxHostUI second;
     try {
         CFxUIJsonReader::read(QJsonDocument::fromJson(once).object(), second);
     } catch (const OdError& error) {

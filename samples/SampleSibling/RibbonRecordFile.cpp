@@ -1,18 +1,16 @@
 #include "RibbonRecordFile.h"
 
 #include "RibbonRecordParser.h"
-
-#include <CFxTextFile.h>
+#include "SampleTextFile.h"
 
 bool RibbonRecordFile::read(const QString& path)
 {
-    QByteArray content;
-    QString problem;
-    if (!CFxTextFile::read(path, content, problem)) {
-        m_error = QStringLiteral("cannot read %1: %2").arg(path, problem);
+    SampleTextFile file;
+    if (!file.read(path)) {
+        m_error = QStringLiteral("cannot read %1: %2").arg(path, file.error());
         return false;
     }
-    RibbonRecordParser parser(QString::fromUtf8(content));
+    RibbonRecordParser parser(QString::fromUtf8(file.content()));
     if (!parser.parse(m_owned, m_records)) {
         m_error =
             QStringLiteral("%1 is not a list of ribbon records: %2").arg(path, parser.error());

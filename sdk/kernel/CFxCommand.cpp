@@ -2,13 +2,18 @@
 
 #include "CFxCommandContext.h"
 
+namespace {
+// The group of commands that do not choose their own.
+constexpr const wchar_t* kDefaultGroupName = L"QUILLON_COMMANDS";
+} // namespace
+
 CFxCommand::CFxCommand() = default;
 
 CFxCommand::~CFxCommand() = default;
 
 const OdString CFxCommand::groupName() const
 {
-    return OdString(defaultGroupName());
+    return OdString(kDefaultGroupName);
 }
 
 void CFxCommand::execute(OdEdCommandContext* context)

@@ -1,7 +1,9 @@
 #include "CFxDocumentManagerReactor.h"
 
+#include <OdReactorAttachments.h>
+
 CFxDocumentManagerReactor::CFxDocumentManagerReactor()
-    : m_attachments(static_cast<const void*>(this))
+    : m_attachments(std::make_unique<OdReactorAttachments>(static_cast<const void*>(this)))
 {}
 
 CFxDocumentManagerReactor::~CFxDocumentManagerReactor() = default;

@@ -1,10 +1,9 @@
 #include "CFxHostServices.h"
 
 #include "CFxEditorReactor.h"
-#include "CFxUI.h"
 
-#include <OdEditor.h>
 #include <OdEventLog.h>
+#include <OdHostEditor.h>
 
 #include <utility>
 
@@ -26,7 +25,7 @@ int CFxHostServices::GetCurrentLanguageId() const
     return m_languageId;
 }
 
-CFxDocumentManager* CFxHostServices::GetDocumentManager()
+CFxHostDocumentManager* CFxHostServices::GetDocumentManager()
 {
     return &m_documents;
 }
@@ -45,7 +44,7 @@ QWidget* CFxHostServices::GetMainFrame() const
     return m_mainFrame;
 }
 
-CFxUI* CFxHostServices::GetUI() const
+CFxHostUI* CFxHostServices::GetUI() const
 {
     return m_ui.get();
 }
@@ -55,7 +54,7 @@ QUuid CFxHostServices::GetInstallationId() const
     return m_installationId;
 }
 
-void CFxHostServices::SetUI(std::unique_ptr<CFxUI> ui)
+void CFxHostServices::SetUI(std::unique_ptr<CFxHostUI> ui)
 {
     m_ui = std::move(ui);
 }
@@ -87,7 +86,7 @@ void CFxHostServices::MainFrameCreated(QWidget* mainFrame)
 {
     m_mainFrame = mainFrame;
     OdEventLog::report(QStringLiteral("mainframe-created"));
-    odedEditor()->notify([mainFrame](OdEditorReactor* reactor) {
+    odedHostEditor()->notify([mainFrame](OdEditorReactor* reactor) {
         if (auto* hostReactor = dynamic_cast<CFxEditorReactor*>(reactor))
             hostReactor->mainFrameCreated(mainFrame);
     });
@@ -96,7 +95,7 @@ void CFxHostServices::MainFrameCreated(QWidget* mainFrame)
 void CFxHostServices::MainFrameDestroyed(QWidget* mainFrame)
 {
     OdEventLog::report(QStringLiteral("mainframe-destroyed"));
-    odedEditor()->notify([mainFrame](OdEditorReactor* reactor) {
+    odedHostEditor()->notify([mainFrame](OdEditorReactor* reactor) {
         if (auto* hostReactor = dynamic_cast<CFxEditorReactor*>(reactor))
             hostReactor->mainFrameDestroyed(mainFrame);
     });

@@ -8,15 +8,6 @@ CFxUI::CFxUI() : m_systemMenu(make<CFxUIRibbonSystemMenuItem>(CFxString("ID_Ribb
 
 CFxUI::~CFxUI() = default;
 
-template <class T, class... Args>
-T* CFxUI::make(Args&&... args)
-{
-    auto object = std::make_unique<T>(std::forward<Args>(args)...);
-    T* raw = object.get();
-    m_objects.emplace(raw, std::move(object));
-    return raw;
-}
-
 CFxUIGroupIterator* CFxUI::NewGroupIterator() const
 {
     return new CFxUIGroupIterator(std::vector<CFxUIGroup*>(m_groups.begin(), m_groups.end()));
@@ -25,18 +16,6 @@ CFxUIGroupIterator* CFxUI::NewGroupIterator() const
 CFxUIWorkspace* CFxUI::FindWorkspace(const CFxString& name) const
 {
     return m_workspaces.FindFirst(name);
-}
-
-CFxUIGroup* CFxUI::CreateMenuGroup(const CFxString& identifier)
-{
-    CFxUIGroup* group = make<CFxUIGroup>(identifier);
-    m_madeGroups.push_back(group);
-    return group;
-}
-
-CFxUIPullDownMenu* CFxUI::CreatePullDownMenu(const CFxString& identifier)
-{
-    return make<CFxUIPullDownMenu>(identifier);
 }
 
 CFxUIMenuItem* CFxUI::CreateMenuItem()
@@ -84,11 +63,6 @@ CFxUIRibbonSystemMenuItem* CFxUI::CreateRibbonSystemMenuItem(const CFxString& id
     return make<CFxUIRibbonSystemMenuItem>(identifier);
 }
 
-CFxUIWorkspace* CFxUI::CreateWorkspace(const CFxString& name)
-{
-    return make<CFxUIWorkspace>(name);
-}
-
 CFxUICommand* CFxUI::CreateCommand(const CFxString& identifier, CFxUIGroup* owner)
 {
     auto* command = make<CFxUICommand>(identifier);
@@ -128,9 +102,4 @@ void CFxUI::Update()
     OdEventLog::report(QStringLiteral("ui-updated"));
     if (m_updateHandler)
         m_updateHandler();
-}
-
-void CFxUI::SetUpdateHandler(std::function<void()> handler)
-{
-    m_updateHandler = std::move(handler);
 }

@@ -1,7 +1,7 @@
 #include "CFxUIJsonReader.h"
 
+#include "CFxHostUI.h"
 #include "CFxTextFile.h"
-#include "CFxUI.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -103,9 +103,9 @@ int buttonKind(const QString& kind, const QString& path)
 }
 } // namespace
 
-CFxUIJsonReader::CFxUIJsonReader(CFxUI& ui) : m_ui(ui) {}
+CFxUIJsonReader::CFxUIJsonReader(CFxHostUI& ui) : m_ui(ui) {}
 
-void CFxUIJsonReader::read(const QJsonObject& profile, CFxUI& ui)
+void CFxUIJsonReader::read(const QJsonObject& profile, CFxHostUI& ui)
 {
     const QString path;
     checkKeys(profile, path,
@@ -124,7 +124,7 @@ void CFxUIJsonReader::read(const QJsonObject& profile, CFxUI& ui)
                   });
 }
 
-void CFxUIJsonReader::readFile(const QString& path, CFxUI& ui)
+void CFxUIJsonReader::readFile(const QString& path, CFxHostUI& ui)
 {
     QByteArray content;
     QString problem;
@@ -155,14 +155,14 @@ void CFxUIJsonReader::readGroup(const QJsonObject& json, const QString& path)
     const QString id = string(json, QStringLiteral("id"), path, true);
     claim(m_groupPaths, id, path, "group");
     CFxUIGroup* group = m_ui.CreateMenuGroup(id);
-    group->SetMainGroup(boolean(json, QStringLiteral("main"), path));
+    CFxHostUI::SetMainGroup(*group, boolean(json, QStringLiteral("main"), path));
     if (group->IsMainGroup()) {
         if (!m_mainGroupPath.isEmpty())
             fail(path,
                  QStringLiteral("a second main group (the first is %1)").arg(m_mainGroupPath));
         m_mainGroupPath = path;
     }
-    group->SetEditable(boolean(json, QStringLiteral("editable"), path));
+    CFxHostUI::SetEditable(*group, boolean(json, QStringLiteral("editable"), path));
     if (boolean(json, QStringLiteral("reference"), path)) {
         if (m_ui.GetReferenceMenuGroup())
             fail(path, QStringLiteral("only one group can be the reference group"));

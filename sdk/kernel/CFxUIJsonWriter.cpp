@@ -1,7 +1,7 @@
 #include "CFxUIJsonWriter.h"
 
+#include "CFxHostUI.h"
 #include "CFxJsonTextWriter.h"
-#include "CFxUI.h"
 
 #include <QJsonArray>
 
@@ -169,7 +169,7 @@ QJsonObject menuJson(const CFxUIPullDownMenu& menu)
             {QStringLiteral("entries"), entries}};
 }
 
-QJsonObject groupJson(const CFxUIGroup& group, const CFxUI& ui)
+QJsonObject groupJson(const CFxUIGroup& group, const CFxHostUI& ui)
 {
     QJsonArray menus, tabs, commands, applicationMenu;
     for (const CFxUIPullDownMenu* menu : group.GetPullDownMenus())
@@ -193,7 +193,7 @@ QJsonObject groupJson(const CFxUIGroup& group, const CFxUI& ui)
 }
 } // namespace
 
-QJsonObject CFxUIJsonWriter::write(const CFxUI& ui)
+QJsonObject CFxUIJsonWriter::write(const CFxHostUI& ui)
 {
     QJsonArray groups, workspaces, systemMenu;
     for (const CFxUIGroup* group : ui.GetMenuGroups())
@@ -417,7 +417,7 @@ void writeMenu(CFxJsonTextWriter& out, const CFxUIPullDownMenu& menu)
     out.endObject();
 }
 
-void writeGroup(CFxJsonTextWriter& out, const CFxUIGroup& group, const CFxUI& ui)
+void writeGroup(CFxJsonTextWriter& out, const CFxUIGroup& group, const CFxHostUI& ui)
 {
     out.beginObject();
     out.key("applicationMenu");
@@ -453,7 +453,7 @@ void writeGroup(CFxJsonTextWriter& out, const CFxUIGroup& group, const CFxUI& ui
 }
 } // namespace
 
-QByteArray CFxUIJsonWriter::writeText(const CFxUI& ui, bool compact)
+QByteArray CFxUIJsonWriter::writeText(const CFxHostUI& ui, bool compact)
 {
     CFxJsonTextWriter out(compact);
     out.beginObject();

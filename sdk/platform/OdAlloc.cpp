@@ -1,4 +1,4 @@
-#include "OdAlloc.h"
+#include "OdAllocSetup.h"
 
 #include <cstdlib>
 

@@ -1,11 +1,12 @@
 #include "OdDbObjectId.h"
 
-#include "OdDbDatabase.h"
+#include "OdDbDxfDatabase.h"
 
 OdDbObjectId::OdDbObjectId(OdDbDatabase* database, int index) : m_database(database), m_index(index)
 {}
 
 OdDbObjectPtr OdDbObjectId::openObject(OdDb::OpenMode) const
 {
-    return m_database ? m_database->objectAt(m_index) : OdDbObjectPtr();
+    const auto* database = dynamic_cast<const OdDbDxfDatabase*>(m_database);
+    return database ? database->objectAt(m_index) : OdDbObjectPtr();
 }

@@ -1,7 +1,7 @@
 #include "OdDbXrefGraph.h"
 
 #include "OdDbBlockTableRecord.h"
-#include "OdDbDatabase.h"
+#include "OdDbDxfDatabase.h"
 #include "OdError.h"
 
 #include <QDir>
@@ -37,10 +37,17 @@ OdDbDatabasePtr readIfPossible(const QString& path)
     if (!QFileInfo(path).isFile())
         return {};
     try {
-        return OdDbDatabase::readReferences(toOdString(path));
+        return OdDbDxfDatabase::readReferences(toOdString(path));
     } catch (const OdError&) {
         return {};
     }
+}
+
+// The drawings of this platform are all read from DXF files; one of another kind names no
+// block records.
+OdDbDxfDatabase* dxfDatabase(const OdDbXrefGraphNode* node)
+{
+    return dynamic_cast<OdDbDxfDatabase*>(node->database());
 }
 
 // Walks the references depth first, making one node per drawing. The walk keeps its own
@@ -58,13 +65,13 @@ public:
         enter(node, file.isEmpty() ? QString() : drawingKey(file));
         while (!m_path.empty()) {
             Following& top = m_path.back();
-            if (top.next >= top.node->database()->numBlockRecords()) {
+            if (!top.database || top.next >= top.database->numBlockRecords()) {
                 m_following.remove(top.key);
                 m_path.pop_back();
                 continue;
             }
             OdDbXrefGraphNode* node = top.node;
-            const OdDbObjectId id = node->database()->blockRecordId(top.next++);
+            const OdDbObjectId id = top.database->blockRecordId(top.next++);
             addReference(node, id);
         }
     }
@@ -74,6 +81,7 @@ private:
     struct Following
     {
         OdDbXrefGraphNode* node;
+        OdDbDxfDatabase* database;
         QString key;
         int next;
     };
@@ -81,7 +89,7 @@ private:
     void enter(OdDbXrefGraphNode* node, const QString& key)
     {
         m_following.insert(key);
-        m_path.push_back({node, key, 0});
+        m_path.push_back({node, dxfDatabase(node), key, 0});
     }
 
     void addReference(OdDbXrefGraphNode* node, const OdDbObjectId& id)

@@ -1,6 +1,6 @@
 #include "OdEdCommand.h"
 
-#include "OdRxDynamicLinker.h"
+#include "OdHostDynamicLinker.h"
 
 #include <typeinfo>
 
@@ -14,7 +14,7 @@ const OdString OdEdCommand::localName() const
 OdRxModule* OdEdCommand::module() const
 {
     // A class's type information lives in the library that defines the class.
-    return odrxDynamicLinker()->moduleContaining(&typeid(*this));
+    return odrxHostDynamicLinker()->moduleContaining(&typeid(*this));
 }
 
 void OdEdCommand::undefine(bool undefined)

@@ -1,6 +1,10 @@
 #include "OdEditorReactor.h"
 
-OdEditorReactor::OdEditorReactor() : m_attachments(static_cast<const void*>(this)) {}
+#include "OdReactorAttachments.h"
+
+OdEditorReactor::OdEditorReactor()
+    : m_attachments(std::make_unique<OdReactorAttachments>(static_cast<const void*>(this)))
+{}
 
 OdEditorReactor::~OdEditorReactor() = default;
 

@@ -4,11 +4,14 @@
    that includes, directly or not, from it cannot be read, tested or moved alone);
  - common/ includes from no other folder of src/: it is what they all share;
  - nothing in sdk/ includes from src/: the SDK stands for the host's kernel and platform, which
-   know nothing of the module.
+   know nothing of the module;
+ - no module-facing header (sdk/*/include/) includes a host-only header (sdk/*/host/), and
+   neither does src/ nor any further folder given (the module's public headers, the sample
+   sibling): a module sees only what the real host and platform offer.
 
-    check-includes.py SRC_DIR SDK_DIR
+    check-includes.py SRC_DIR SDK_DIR [MODULE_DIR...]
 
-Quiet when both hold; otherwise names each cycle and each offending include, and exits 1.
+Quiet when all hold; otherwise names each cycle and each offending include, and exits 1.
 """
 import os
 import re
@@ -99,11 +102,41 @@ def sdk_includes_of_src(src_root, sdk_root):
     return offences
 
 
+def sdk_headers(sdk_root, side):
+    """The headers of one side of the SDK ("include" or "host"), by file name."""
+    headers = {}
+    for library in sorted(os.listdir(sdk_root)):
+        folder = os.path.join(sdk_root, library, side)
+        if os.path.isdir(folder):
+            for path in sources(folder):
+                headers.setdefault(os.path.basename(path), path)
+    return headers
+
+
+def host_only_includes(sdk_root, module_roots):
+    """Every include of a host-only header in a module-facing header or in module code, as
+    (including file, include name, host-only header)."""
+    host_only = sdk_headers(sdk_root, "host")
+    module_facing = sdk_headers(sdk_root, "include")
+    checked = list(module_facing.values())
+    for root in module_roots:
+        checked.extend(sources(root))
+    offences = []
+    for path in checked:
+        for name in includes(path):
+            beside = os.path.join(os.path.dirname(path), name)
+            base = os.path.basename(name)
+            if base in host_only and base not in module_facing and not os.path.isfile(beside):
+                offences.append((path, name, host_only[base]))
+    return offences
+
+
 def main(argv):
-    if len(argv) != 3 or not all(os.path.isdir(folder) for folder in argv[1:]):
-        print("usage: check-includes.py SRC_DIR SDK_DIR (both existing folders)", file=sys.stderr)
+    if len(argv) < 3 or not all(os.path.isdir(folder) for folder in argv[1:]):
+        print("usage: check-includes.py SRC_DIR SDK_DIR [MODULE_DIR...] (existing folders)",
+              file=sys.stderr)
         return 2
-    src_root, sdk_root = (os.path.abspath(folder) for folder in argv[1:])
+    src_root, sdk_root, *other_roots = (os.path.abspath(folder) for folder in argv[1:])
     status = 0
     graph = folder_graph(src_root)
     for cycle in cycles(graph):
@@ -122,6 +155,15 @@ def main(argv):
         print("sdk/ includes from src/:", file=sys.stderr)
         for offence in offences:
             print(f"    {offence}", file=sys.stderr)
+    host_only = host_only_includes(sdk_root, [src_root] + other_roots)
+    if host_only:
+        status = 1
+        print("module-facing code includes host-only headers (a module builds against sdk/*/include "
+              "alone):", file=sys.stderr)
+        top = os.path.dirname(sdk_root)
+        for path, name, header in host_only:
+            print(f"    {os.path.relpath(path, top)}: #include <{name}> is host-only "
+                  f"({os.path.relpath(header, top)})", file=sys.stderr)
     return status
 
 

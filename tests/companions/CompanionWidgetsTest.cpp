@@ -16,8 +16,8 @@
 
 #include <CFxCommandContext.h>
 #include <CFxHostServices.h>
-#include <OdEdCommandStack.h>
-#include <OdRxDynamicLinker.h>
+#include <OdHostCommandStack.h>
+#include <OdHostDynamicLinker.h>
 #include <OdSharedLibrary.h>
 #include <RegistryStandIn.h>
 
@@ -50,12 +50,12 @@ QDockWidget* dock(const QMainWindow& window, const QString& name)
 void run(const wchar_t* command)
 {
     OdStaticRxObject<CFxCommandContext> context(QStringList{}, nullptr);
-    odedRegCmds()->executeCommand(OdString(command), &context);
+    odedHostRegCmds()->executeCommand(OdString(command), &context);
 }
 
 bool moduleLoaded(const OdString& name)
 {
-    return !odrxDynamicLinker()->getModule(name).isNull();
+    return !odrxHostDynamicLinker()->getModule(name).isNull();
 }
 
 // ExtCommands loaded from the stage, with the collaboration connector switched on.
@@ -81,7 +81,7 @@ protected:
         m_module.unload();
         // The linker keeps the collaboration connector until shut-down; this test is one.
         if (moduleLoaded(kOmniplaneModule))
-            odrxDynamicLinker()->unloadModule(kOmniplaneModule);
+            odrxHostDynamicLinker()->unloadModule(kOmniplaneModule);
         EXPECT_FALSE(moduleLoaded(kForgeportModule));
         RegistryStandIn::useFile(QString());
     }
@@ -141,10 +141,10 @@ TEST_F(CompanionWidgetsTest, AWindowAlreadyOnScreenGetsTheDocksAtOnce)
 TEST_F(CompanionWidgetsTest, AConnectorGoesWithItsViewWhileTheWindowStandsOrWithTheWindow)
 {
     QMainWindow& window = *m_window;
-    const QString path = qt(odrxDynamicLinker()->getModule(kOmniplaneModule)->moduleName());
+    const QString path = qt(odrxHostDynamicLinker()->getModule(kOmniplaneModule)->moduleName());
     // Unloaded while its dock still waits for the window to show: nothing of it is left to
     // build, and showing the window reaches no unloaded code.
-    ASSERT_TRUE(odrxDynamicLinker()->unloadModule(kOmniplaneModule));
+    ASSERT_TRUE(odrxHostDynamicLinker()->unloadModule(kOmniplaneModule));
     EXPECT_FALSE(OdSharedLibrary::isLoaded(od(path)));
     window.show();
     EXPECT_EQ(dockNames(window), QStringList({kForgeport, kQuestions, kPane}));
@@ -173,7 +173,7 @@ TEST_F(CompanionWidgetsTest, TheModuleAndItsConnectorsUnloadCleanlyCycleAfterCyc
             GetFxHostServices()->MainFrameDestroyed(&window);
         }
         ASSERT_FALSE(moduleLoaded(kForgeportModule)) << "cycle " << cycle;
-        ASSERT_TRUE(odrxDynamicLinker()->unloadModule(kOmniplaneModule)) << "cycle " << cycle;
+        ASSERT_TRUE(odrxHostDynamicLinker()->unloadModule(kOmniplaneModule)) << "cycle " << cycle;
         ASSERT_EQ(dockNames(window), QStringList({kQuestions, kPane})) << "cycle " << cycle;
     }
     EXPECT_EQ(m_events.events().values("module-unloaded", "module").count("QNTForgeportConnector"),

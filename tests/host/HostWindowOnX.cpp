@@ -9,8 +9,8 @@
 #include <QDir>
 #include <QTest>
 
-#include <CFxDocumentManager.h>
-#include <CFxSystemServices.h>
+#include <CFxHostDocumentManager.h>
+#include <CFxHostServices.h>
 
 HostWindowOnX::HostWindowOnX() = default;
 
@@ -38,7 +38,7 @@ void HostWindowOnX::SetUp()
 void HostWindowOnX::TearDown()
 {
     m_session->shutdown();
-    GetFxSystemServices()->GetDocumentManager()->CloseAll();
+    GetFxHostServices()->GetDocumentManager()->CloseAll();
     std::fclose(m_discarded);
 }
 
@@ -52,9 +52,9 @@ HostWindow* HostWindowOnX::window() const
     return m_session->mainFrame();
 }
 
-const CFxUI& HostWindowOnX::ui() const
+const CFxHostUI& HostWindowOnX::ui() const
 {
-    return *GetFxSystemServices()->GetUI();
+    return *GetFxHostServices()->GetUI();
 }
 
 void HostWindowOnX::run(const QString& statement)

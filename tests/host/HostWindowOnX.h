@@ -11,7 +11,7 @@
 #include <cstdio>
 #include <memory>
 
-class CFxUI;
+class CFxHostUI;
 class HostSession;
 class HostWindow;
 class ScriptRunner;
@@ -31,7 +31,7 @@ protected:
     virtual QStringList startModules() const;
 
     HostWindow* window() const;
-    const CFxUI& ui() const;
+    const CFxHostUI& ui() const;
     // Runs a statement as the window's command line does, paths taken from the test's home.
     void run(const QString& statement);
     // The command lines that ran, known or not.

@@ -16,8 +16,8 @@
 
 #include <gtest/gtest.h>
 
-#include <CFxUI.h>
-#include <OdDbDatabase.h>
+#include <CFxHostUI.h>
+#include <OdDbDxfDatabase.h>
 
 #include <memory>
 
@@ -30,7 +30,7 @@ public:
         : main(ui.CreateMenuGroup(CFxString(QStringLiteral("QUILLON")))),
           workspace(ui.CreateWorkspace(RibbonWidget::workspaceName()))
     {
-        main->SetMainGroup(true);
+        CFxHostUI::SetMainGroup(*main, true);
         ui.GetMenuGroups().Append(main);
         ui.GetWorkspaces().Append(workspace);
     }
@@ -78,7 +78,7 @@ public:
         return tab;
     }
 
-    CFxUI ui;
+    CFxHostUI ui;
     CFxUIGroup* main;
     CFxUIWorkspace* workspace;
 };
@@ -306,7 +306,7 @@ protected:
     std::shared_ptr<const DrawingScene> sceneOf(const QString& name, const QByteArray& content)
     {
         write(name, content);
-        return DrawingScene::of(*OdDbDatabase::readFile(toOdString(path(name))));
+        return DrawingScene::of(*OdDbDxfDatabase::readFile(toOdString(path(name))));
     }
     void write(const QString& name, const QByteArray& content)
     {

@@ -22,15 +22,15 @@
 
 #include <gtest/gtest.h>
 
-#include <CFxSystemServices.h>
-#include <CFxUI.h>
-#include <OdEdCommandStack.h>
+#include <CFxHostServices.h>
+#include <CFxHostUI.h>
+#include <OdHostCommandStack.h>
 
 #include <cstdio>
 
 namespace {
 // A menu entry of the profile whose macro runs a command on the command stack.
-const CFxUIMenuEntry* entryRunningACommand(const CFxUI& ui)
+const CFxUIMenuEntry* entryRunningACommand(const CFxHostUI& ui)
 {
     for (const CFxUIGroup* group : ui.GetMenuGroups()) {
         if (group == ui.GetReferenceMenuGroup())
@@ -41,7 +41,7 @@ const CFxUIMenuEntry* entryRunningACommand(const CFxUI& ui)
                 if (!item)
                     continue;
                 const QString line = HostWindow::commandLineOf(item->GetMacro().toQString());
-                if (odedRegCmds()->lookupCmd(toOdString(line)))
+                if (odedHostRegCmds()->lookupCmd(toOdString(line)))
                     return entry;
             }
         }

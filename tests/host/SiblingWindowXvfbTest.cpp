@@ -14,7 +14,7 @@
 
 #include <gtest/gtest.h>
 
-#include <CFxUI.h>
+#include <CFxHostUI.h>
 
 namespace {
 const QStringList kProfileTabs{"Home", "Insert", "View"};

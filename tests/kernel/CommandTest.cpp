@@ -8,7 +8,7 @@
 
 #include <CFxCommand.h>
 #include <CFxCommandContext.h>
-#include <OdEdCommandStack.h>
+#include <OdHostCommandStack.h>
 #include <OdStaticRxObject.h>
 
 namespace {
@@ -38,12 +38,12 @@ public:
 
 TEST(HostCommand, RunsThroughTheStackHandsItsResultToTheHostsContextAndKeepsTheDefaultGroup)
 {
-    OdEdCommandStack stack;
+    OdHostCommandStack stack;
     OdStaticRxObject<MeasureCommand> command;
     stack.addCommand(&command);
 
     EXPECT_EQ(qt(command.groupName()), "QUILLON_COMMANDS");
-    EXPECT_EQ(stack.lookupCmd(od("measure"), OdEdCommandStack::kLocal, od("QUILLON_COMMANDS")),
+    EXPECT_EQ(stack.lookupCmd(od("measure"), OdHostCommandStack::kLocal, od("QUILLON_COMMANDS")),
               &command);
     OdStaticRxObject<CFxCommandContext> context(QStringList{}, nullptr);
     EXPECT_TRUE(stack.executeCommand(od("_MEASURE"), &context));

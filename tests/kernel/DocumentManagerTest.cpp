@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <CFxDocumentManager.h>
+#include <CFxHostDocumentManager.h>
 #include <CFxTracker.h>
 
 #include <functional>
@@ -60,7 +60,7 @@ protected:
         return manager.GetActiveDocument() ? manager.GetActiveDocument()->GetIndex() : 0;
     }
 
-    CFxDocumentManager manager;
+    CFxHostDocumentManager manager;
     QStringList log;
     LoggingReactor reactor{QString(), &log};
 };

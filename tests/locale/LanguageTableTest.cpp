@@ -90,7 +90,7 @@ protected:
     }
 
 private:
-    int m_saved = GetFxSystemServices()->GetCurrentLanguageId();
+    int m_saved = GetFxHostServices()->GetCurrentLanguageId();
 };
 
 TEST_F(CurrentLanguage, SystemIsTheSystemsLanguageAndAnyOtherSettingIsItsOwnEntry)

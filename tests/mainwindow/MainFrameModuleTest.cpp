@@ -8,9 +8,9 @@
 #include <gtest/gtest.h>
 
 #include <CFxHostServices.h>
-#include <CFxUI.h>
+#include <CFxHostUI.h>
 #include <CFxUIJsonReader.h>
-#include <OdEdCommandStack.h>
+#include <OdHostCommandStack.h>
 
 #include <memory>
 
@@ -35,7 +35,7 @@ QStringList systemMenuWithBlocks(int blocks)
 
 bool commandKnown(const wchar_t* name)
 {
-    return odedRegCmds()->lookupCmd(OdString(name)) != nullptr;
+    return odedHostRegCmds()->lookupCmd(OdString(name)) != nullptr;
 }
 
 class MainFrameTest : public ::testing::Test
@@ -59,7 +59,7 @@ protected:
 
     static void useProfile(const QString& path)
     {
-        auto ui = std::make_unique<CFxUI>();
+        auto ui = std::make_unique<CFxHostUI>();
         CFxUIJsonReader::readFile(path, *ui);
         GetFxHostServices()->SetUI(std::move(ui));
     }
@@ -80,7 +80,7 @@ protected:
         GetFxHostServices()->MainFrameDestroyed(nullptr);
     }
 
-    static UiModel model() { return UiModel::of(*GetFxSystemServices()->GetUI()); }
+    static UiModel model() { return UiModel::of(*GetFxHostServices()->GetUI()); }
     static QStringList help(const QString& group) { return model().menuEntryIds(group); }
 
     EventRecorder m_events;

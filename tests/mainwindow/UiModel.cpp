@@ -13,7 +13,7 @@ QJsonObject withId(const QJsonValue& list, const QString& id)
 }
 } // namespace
 
-UiModel UiModel::of(const CFxUI& ui)
+UiModel UiModel::of(const CFxHostUI& ui)
 {
     return UiModel(CFxUIJsonWriter::write(ui));
 }

@@ -4,7 +4,7 @@
 #include <QJsonObject>
 #include <QStringList>
 
-class CFxUI;
+class CFxHostUI;
 
 // What the tests ask of a user-interface model, in the form in which the host's ui event
 // writes it (so that in-process and end-to-end tests read it alike).
@@ -12,7 +12,7 @@ class UiModel
 {
 public:
     explicit UiModel(const QJsonObject& model) : m_model(model) {}
-    static UiModel of(const CFxUI& ui);
+    static UiModel of(const CFxHostUI& ui);
 
     // The identifiers of the entries of the group's menu of that identifier (exactly).
     QStringList menuEntryIds(const QString& groupId, const QString& menuId = "ID_MnHelp") const;

@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <CFxHostServices.h>
-#include <CFxUI.h>
+#include <CFxHostUI.h>
 #include <CFxUIJsonReader.h>
 
 #include <memory>
@@ -24,7 +24,7 @@ protected:
 
     static void useProfile(const QString& path)
     {
-        auto ui = std::make_unique<CFxUI>();
+        auto ui = std::make_unique<CFxHostUI>();
         CFxUIJsonReader::readFile(path, *ui);
         GetFxHostServices()->SetUI(std::move(ui));
     }
@@ -32,7 +32,7 @@ protected:
     // The menu `menuId` of the group `groupId`, both written exactly.
     static CFxUIPullDownMenu* menu(const QString& groupId, const QString& menuId)
     {
-        for (CFxUIGroup* group : GetFxSystemServices()->GetUI()->GetMenuGroups()) {
+        for (CFxUIGroup* group : GetFxHostServices()->GetUI()->GetMenuGroups()) {
             if (group->GetIdentifier().toQString() != groupId)
                 continue;
             for (CFxUIPullDownMenu* each : group->GetPullDownMenus()) {

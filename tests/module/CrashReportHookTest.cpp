@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <CFxHostServices.h>
-#include <OdEdCommandStack.h>
+#include <OdHostCommandStack.h>
 #include <OdRxModule.h>
 
 #include <array>
@@ -19,9 +19,9 @@ extern "C" bool TarnCrashReportSendService_getRegVersion(QString* version);
 extern "C" void TarnCrashReportSendService_setRegVersion(const QString* version);
 
 namespace {
-CFxDocumentManager* documents()
+CFxHostDocumentManager* documents()
 {
-    return GetFxSystemServices()->GetDocumentManager();
+    return GetFxHostServices()->GetDocumentManager();
 }
 
 std::optional<QString> recordedVersion()
@@ -39,7 +39,7 @@ protected:
     void SetUp() override
     {
         LoadedModule::useFolder();
-        GetFxSystemServices()->GetProductVersion(m_saved[0], m_saved[1], m_saved[2], m_saved[3]);
+        GetFxHostServices()->GetProductVersion(m_saved[0], m_saved[1], m_saved[2], m_saved[3]);
     }
     void TearDown() override
     {
@@ -143,7 +143,7 @@ TEST_F(CrashReportHook, ASecondStartCreatesNoSecondReactor)
     start({2017, 0, 9, 3});
     // The command stack refuses commands it already has; take them off as a host would.
     for (const wchar_t* name : {L"_Home", L"_Community", L"_VIEWCAST"})
-        odedRegCmds()->removeCmd(odedRegCmds()->lookupCmd(OdString(name)));
+        odedHostRegCmds()->removeCmd(odedHostRegCmds()->lookupCmd(OdString(name)));
     recorder.clear();
 
     loaded->module()->initApp();

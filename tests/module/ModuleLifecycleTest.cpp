@@ -13,8 +13,8 @@
 #include <CFxCommand.h>
 #include <CFxCommandContext.h>
 #include <CFxHostServices.h>
-#include <OdEdCommandStack.h>
-#include <OdEditor.h>
+#include <OdHostCommandStack.h>
+#include <OdHostEditor.h>
 #include <OdSharedLibrary.h>
 
 #include <optional>
@@ -39,7 +39,7 @@ TEST_F(ModuleLifecycle, StartAttachesTheEditorReactorAndRegistersThreeCommandsIn
                      "reactor-added document-manager"}));
 
     for (const char* hidden : {"TUTORIAL", "_TUTORIAL", "PLOT_PRONTO", "_PLOT_PRONTO"})
-        EXPECT_EQ(odedRegCmds()->lookupCmd(od(hidden)), nullptr) << hidden;
+        EXPECT_EQ(odedHostRegCmds()->lookupCmd(od(hidden)), nullptr) << hidden;
 }
 
 TEST_F(ModuleLifecycle, CommandsRunByLocalOrGlobalNameAndCompleteNormally)
@@ -48,7 +48,7 @@ TEST_F(ModuleLifecycle, CommandsRunByLocalOrGlobalNameAndCompleteNormally)
     for (const char* name :
          {"Home", "_Home", "HOME", "Community", "_community", "VIEWCAST", "_VIEWCAST"}) {
         OdStaticRxObject<CFxCommandContext> context(QStringList{}, nullptr);
-        EXPECT_TRUE(odedRegCmds()->executeCommand(od(name), &context)) << name;
+        EXPECT_TRUE(odedHostRegCmds()->executeCommand(od(name), &context)) << name;
         EXPECT_EQ(context.result(), RTNORM) << name;
     }
 }
@@ -68,7 +68,7 @@ TEST_F(ModuleLifecycle, StopTakesBackEverythingTheStartLent)
         QStringList({"reactor-removed null", "command-removed _Home", "command-removed _Community",
                      "command-removed _VIEWCAST", "reactor-removed destroyed", "module-unloaded"}));
     for (const char* name : {"Home", "_Home", "Community", "_Community", "VIEWCAST", "_VIEWCAST"})
-        EXPECT_EQ(odedRegCmds()->lookupCmd(od(name)), nullptr) << name;
+        EXPECT_EQ(odedHostRegCmds()->lookupCmd(od(name)), nullptr) << name;
     EXPECT_FALSE(OdSharedLibrary::isLoaded(od(path)));
 
     // The module's memory and code are gone: a notification that still reached its reactor

@@ -12,8 +12,8 @@
 
 #include <CFxCommandContext.h>
 #include <CFxHostServices.h>
-#include <OdEdCommandStack.h>
-#include <OdEditor.h>
+#include <OdHostCommandStack.h>
+#include <OdHostEditor.h>
 #include <OdSharedLibrary.h>
 
 TEST(ModuleSoak, AHundredLoadUseUnloadCyclesLeaveNothingBehind)
@@ -21,12 +21,12 @@ TEST(ModuleSoak, AHundredLoadUseUnloadCyclesLeaveNothingBehind)
     IsolatedHome home;
     EventRecorder recorder;
     LoadedModule::useFolder();
-    CFxDocumentManager* documents = GetFxSystemServices()->GetDocumentManager();
+    CFxHostDocumentManager* documents = GetFxHostServices()->GetDocumentManager();
     const int first = documents->OpenDocument(QStringLiteral("/drawings/first.dxf"))->GetIndex();
     int saved[4] = {};
-    GetFxSystemServices()->GetProductVersion(saved[0], saved[1], saved[2], saved[3]);
-    const std::size_t reactors = odedEditor()->reactorCount();
-    const std::size_t commands = odedRegCmds()->commands().size();
+    GetFxHostServices()->GetProductVersion(saved[0], saved[1], saved[2], saved[3]);
+    const std::size_t reactors = odedHostEditor()->reactorCount();
+    const std::size_t commands = odedHostRegCmds()->commands().size();
 
     for (int cycle = 0; cycle < 100; ++cycle) {
         // A new version at every start: the module compares it with the recorded one.
@@ -36,7 +36,7 @@ TEST(ModuleSoak, AHundredLoadUseUnloadCyclesLeaveNothingBehind)
         if (cycle % 2 == 0) {
             documents->OpenDocument(QStringLiteral("/drawings/plan%1.dxf").arg(cycle));
             OdStaticRxObject<CFxCommandContext> context(QStringList{}, nullptr);
-            ASSERT_TRUE(odedRegCmds()->executeCommand(OdString(L"Home"), &context));
+            ASSERT_TRUE(odedHostRegCmds()->executeCommand(OdString(L"Home"), &context));
         }
         if (cycle % 3 == 0)
             documents->ActivateDocument(first);
@@ -47,8 +47,8 @@ TEST(ModuleSoak, AHundredLoadUseUnloadCyclesLeaveNothingBehind)
         documents->ActivateDocument(first);
         EXPECT_EQ(QString::fromLatin1("2017.1").split(QRegExp(QString::fromLatin1("\\."))).size(),
                   2);
-        ASSERT_EQ(odedEditor()->reactorCount(), reactors);
-        ASSERT_EQ(odedRegCmds()->commands().size(), commands);
+        ASSERT_EQ(odedHostEditor()->reactorCount(), reactors);
+        ASSERT_EQ(odedHostRegCmds()->commands().size(), commands);
     }
     EXPECT_EQ(recorder.events().count("module-unloaded"), 100);
     EXPECT_EQ(recorder.events().values("reactor-added", "kind").count("document-manager"), 100);

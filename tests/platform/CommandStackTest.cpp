@@ -6,9 +6,9 @@
 
 #include <gtest/gtest.h>
 
-#include <OdEdCommandStack.h>
-#include <OdEditor.h>
 #include <OdError.h>
+#include <OdHostCommandStack.h>
+#include <OdHostEditor.h>
 #include <OdRxObjectImpl.h>
 #include <OdStaticRxObject.h>
 
@@ -51,7 +51,7 @@ protected:
         return made;
     }
 
-    OdEdCommandStack stack;
+    OdHostCommandStack stack;
     QStringList log;
 };
 
@@ -66,19 +66,19 @@ TEST_F(CommandStack, FindsCommandsAsTypedAndRunsThemBetweenTheEditorReactorsNoti
     EXPECT_EQ(stack.lookupCmd(OdString(L"line")), line.get());
     EXPECT_EQ(stack.lookupCmd(OdString(L"_Line")), line.get());
     EXPECT_EQ(stack.lookupCmd(OdString(L"Kreis")), circle.get());
-    EXPECT_EQ(stack.lookupCmd(OdString(L"KREIS"), OdEdCommandStack::kGlobal), nullptr);
-    EXPECT_EQ(stack.lookupCmd(OdString(L"_CIRCLE"), OdEdCommandStack::kLocal), nullptr);
-    EXPECT_EQ(stack.lookupCmd(OdString(L"LINE"), OdEdCommandStack::kLocal, OdString(L"draw2")),
+    EXPECT_EQ(stack.lookupCmd(OdString(L"KREIS"), OdHostCommandStack::kGlobal), nullptr);
+    EXPECT_EQ(stack.lookupCmd(OdString(L"_CIRCLE"), OdHostCommandStack::kLocal), nullptr);
+    EXPECT_EQ(stack.lookupCmd(OdString(L"LINE"), OdHostCommandStack::kLocal, OdString(L"draw2")),
               shadow.get());
-    EXPECT_EQ(stack.lookupCmd(OdString(L"_CIRCLE"), OdEdCommandStack::kGlobal, OdString(L"DRAW")),
+    EXPECT_EQ(stack.lookupCmd(OdString(L"_CIRCLE"), OdHostCommandStack::kGlobal, OdString(L"DRAW")),
               nullptr);
 
     OdStaticRxObject<LoggingEditorReactor> reactor(&log);
-    odedEditor()->addReactor(&reactor);
+    odedHostEditor()->addReactor(&reactor);
     EXPECT_TRUE(stack.executeCommand(OdString(L"kreis"), nullptr));
     EXPECT_FALSE(stack.executeCommand(OdString(L"CIRCLE"), nullptr));
     EXPECT_EQ(log, QStringList({"start _CIRCLE", "run _CIRCLE", "end _CIRCLE"}));
-    odedEditor()->removeReactor(&reactor);
+    odedHostEditor()->removeReactor(&reactor);
     for (const CommandPtr& each : {line, circle, shadow})
         stack.removeCmd(each.get());
 }

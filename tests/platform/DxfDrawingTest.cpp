@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include <OdDbDatabase.h>
+#include <OdDbDxfDatabase.h>
 #include <OdError.h>
 #include <OdRxSystemServices.h>
 
@@ -30,7 +30,7 @@ protected:
         return source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
     }
 
-    QByteArray written(const OdDbDatabase& database, OdDb::SaveType type) const
+    QByteArray written(const OdDbDxfDatabase& database, OdDb::SaveType type) const
     {
         const QString target = m_folder.filePath(QStringLiteral("written.dxf"));
         database.writeFile(
@@ -58,7 +58,7 @@ TEST_F(DxfDrawing, DrawingsAreWrittenBackAsTheyWereRead)
     for (const QString& source :
          {QStringLiteral(EC_SOURCE_DIR "/host/demo/plan.dxf"), handMade, trailingReturns}) {
         SCOPED_TRACE(source.toStdString());
-        const OdDbDatabasePtr database = OdDbDatabase::readFile(od(source));
+        const OdDbDxfDatabasePtr database = OdDbDxfDatabase::readFile(od(source));
         ASSERT_TRUE(database);
         EXPECT_EQ(qt(database->getFilename()), source);
         EXPECT_EQ(written(*database, OdDb::kDwg), contentOf(source));
@@ -87,7 +87,7 @@ TEST_P(DxfDrawingRefused, WithTheReason)
 {
     const QString file = writeFile(QStringLiteral("bad.dxf"), GetParam().content);
     try {
-        OdDbDatabase::readFile(od(file));
+        OdDbDxfDatabase::readFile(od(file));
         ADD_FAILURE() << "read: " << GetParam().reason;
     } catch (const OdError& error) {
         EXPECT_EQ(qt(error.description()),

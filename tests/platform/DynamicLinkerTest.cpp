@@ -12,9 +12,9 @@
 #include <gtest/gtest.h>
 
 #include <CFxHostServices.h>
-#include <OdEdCommandStack.h>
 #include <OdError.h>
-#include <OdRxDynamicLinker.h>
+#include <OdHostCommandStack.h>
+#include <OdHostDynamicLinker.h>
 #include <OdSharedLibrary.h>
 
 namespace {
@@ -34,7 +34,7 @@ protected:
         EXPECT_TRUE(linker()->loadedModules().empty());
     }
 
-    static OdRxDynamicLinker* linker() { return odrxDynamicLinker(); }
+    static OdHostDynamicLinker* linker() { return odrxHostDynamicLinker(); }
 
     EventRecorder recorder;
 };
@@ -51,7 +51,7 @@ TEST_F(DynamicLinker, LoadsAModuleOnceByNameAndUnloadsItWithoutATraceWhenNothing
     EXPECT_EQ(recorder.events().count("probe"), 2);
     EXPECT_EQ(QFileInfo(qt(module->moduleName())).canonicalFilePath(),
               QFileInfo(fixture("ProbeModule.tx")).canonicalFilePath());
-    const OdEdCommand* command = odedRegCmds()->lookupCmd(OdString(L"PROBE"));
+    const OdEdCommand* command = odedHostRegCmds()->lookupCmd(OdString(L"PROBE"));
     ASSERT_NE(command, nullptr);
     EXPECT_EQ(command->module(), module.get());
 
@@ -72,7 +72,7 @@ TEST_F(DynamicLinker, LoadsAModuleOnceByNameAndUnloadsItWithoutATraceWhenNothing
               QStringList({"module-unloaded HolderModule", "probe uninitApp", "probe destroyed",
                            "probe static-destroyed", "module-unloaded ProbeModule"}));
     EXPECT_FALSE(OdSharedLibrary::isLoaded(od(fixture("ProbeModule.tx"))));
-    EXPECT_EQ(odedRegCmds()->lookupCmd(OdString(L"PROBE")), nullptr);
+    EXPECT_EQ(odedHostRegCmds()->lookupCmd(OdString(L"PROBE")), nullptr);
     EXPECT_FALSE(linker()->unloadModule(OdString(L"ProbeModule")));
     EXPECT_EQ(recorder.events().all().last().name, "module-unload-skipped");
 }
@@ -120,7 +120,7 @@ TEST_F(DynamicLinker, UnloadAllGoesLatestFirstAndTakesOffTheCommandsAModuleLeftB
     linker()->loadModule(OdString(L"ExtCommands"));
     GetFxHostServices()->MainFrameCreated(nullptr);
     linker()->loadModule(OdString(L"ProbeModule"));
-    ASSERT_NE(odedRegCmds()->lookupCmd(OdString(L"CHECKFORUPDATES")), nullptr);
+    ASSERT_NE(odedHostRegCmds()->lookupCmd(OdString(L"CHECKFORUPDATES")), nullptr);
     recorder.clear();
     linker()->unloadAll();
     EXPECT_EQ(
@@ -129,5 +129,5 @@ TEST_F(DynamicLinker, UnloadAllGoesLatestFirstAndTakesOffTheCommandsAModuleLeftB
                      "command-removed null", "command-removed null",
                      "command-removed module-unloaded", "command-removed module-unloaded",
                      "module-unloaded ExtCommands", "module-unloaded QNTForgeportConnector"}));
-    EXPECT_EQ(odedRegCmds()->lookupCmd(OdString(L"CHECKFORUPDATES")), nullptr);
+    EXPECT_EQ(odedHostRegCmds()->lookupCmd(OdString(L"CHECKFORUPDATES")), nullptr);
 }

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <OdDbBlockTableRecord.h>
+#include <OdDbDxfDatabase.h>
 #include <OdDbXrefGraph.h>
 
 #include <memory>
@@ -60,7 +62,7 @@ TEST(XrefGraph, FollowsReferencesAcrossFilesOnceEachAndWithoutCycles)
     drawing("shared/b.dxf", {"A", "../parts/a.dxf", "C", "../c.dxf"});
     drawing("c.dxf", {});
 
-    const OdDbDatabasePtr database = OdDbDatabase::readFile(od(main));
+    const OdDbDatabasePtr database = OdDbDxfDatabase::readFile(od(main));
     OdDbXrefGraph graph;
     ASSERT_EQ(OdDbXrefGraph::getFrom(database.get(), graph), eOk);
     ASSERT_EQ(graph.numNodes(), 5);
@@ -106,7 +108,7 @@ TEST(XrefGraph, WalksAChainDeeperThanTheStackWouldHoldRecursively)
     int depth = 0;
     QString last;
     std::unique_ptr<QThread> walker(QThread::create([&] {
-        const OdDbDatabasePtr database = OdDbDatabase::readFile(od(folder.filePath("0.dxf")));
+        const OdDbDatabasePtr database = OdDbDxfDatabase::readFile(od(folder.filePath("0.dxf")));
         OdDbXrefGraph graph;
         if (OdDbXrefGraph::getFrom(database.get(), graph) != eOk)
             return;
@@ -141,7 +143,7 @@ TEST(XrefGraph, ReadsOfAReferencedDrawingOnlyWhatNamesItsReferences)
               "  0\nBLOCK\n  2\nA\n 70\n4\n  1\ndamaged-after.dxf\n  0\nENDBLK\n"
               "  0\nBLOCK\n  2\nB\n 70\n4\n  1\ndamaged-before.dxf\n  0\nENDBLK\n"
               "  0\nENDSEC\n  0\nEOF\n");
-    const OdDbDatabasePtr database = OdDbDatabase::readFile(od(folder.filePath("root.dxf")));
+    const OdDbDatabasePtr database = OdDbDxfDatabase::readFile(od(folder.filePath("root.dxf")));
     OdDbXrefGraph graph;
     ASSERT_EQ(OdDbXrefGraph::getFrom(database.get(), graph), eOk);
     const OdDbGraphNode* root = graph.rootNode();

@@ -47,7 +47,7 @@ CFxUIRibbonSystemMenuItem* menuEntry(const CFxUIGroup& group, const QStringList&
 
 RibbonHost::RibbonHost()
 {
-    auto ui = std::make_unique<CFxUI>();
+    auto ui = std::make_unique<CFxHostUI>();
     CFxUIJsonReader::readFile(kDefaultProfile, *ui);
     GetFxHostServices()->SetUI(std::move(ui));
     m_module = std::make_unique<LoadedModule>();

@@ -7,8 +7,8 @@
 
 #include <QStringList>
 
-#include <CFxSystemServices.h>
-#include <CFxUI.h>
+#include <CFxHostServices.h>
+#include <CFxHostUI.h>
 #include <ExtCommands/RibbonItem.h>
 
 #include <memory>
@@ -53,7 +53,7 @@ public:
     RibbonHost();
     ~RibbonHost();
 
-    CFxUI& ui() const { return *GetFxSystemServices()->GetUI(); }
+    CFxHostUI& ui() const { return *GetFxHostServices()->GetUI(); }
     CFxUIGroup& mainGroup() const { return *exactly(ui().GetMenuGroups(), "QUILLON"); }
     const RecordedEvents& events() const { return m_events.events(); }
     CFxUIRibbonRow* addInsRow() const;

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <CFxHostServices.h>
+#include <CFxHostUI.h>
 #include <CFxString.h>
 #include <CFxUIJsonReader.h>
 #include <ExtCommands/ExportTableRibbon.h>
@@ -17,15 +18,16 @@ class RibbonMembers : public ::testing::Test
 protected:
     ~RibbonMembers() override { GetFxHostServices()->SetUI(nullptr); }
 
-    static CFxUI& useDefaultProfile()
+    static CFxHostUI& useDefaultProfile()
     {
-        auto owned = std::make_unique<CFxUI>();
+        auto owned = std::make_unique<CFxHostUI>();
         CFxUIJsonReader::readFile(kDefaultProfile, *owned);
+        CFxHostUI& ui = *owned;
         GetFxHostServices()->SetUI(std::move(owned));
-        return *GetFxSystemServices()->GetUI();
+        return ui;
     }
 
-    CFxUI& ui = useDefaultProfile();
+    CFxHostUI& ui = useDefaultProfile();
 };
 
 TEST_F(RibbonMembers, UnloadRibbonMenuTakesAnyRowsPanelWithItsLastButton)

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <CFxHostUI.h>
 #include <CFxUIJsonWriter.h>
 
 namespace {
@@ -29,7 +30,7 @@ void callEverything(RibbonHost& host)
 TEST(RibbonWithoutPlaces, AModelWithoutAMainGroupIsLeftAsItIs)
 {
     RibbonHost host;
-    host.mainGroup().SetMainGroup(false);
+    CFxHostUI::SetMainGroup(host.mainGroup(), false);
     const QByteArray before = model(host);
     const QStringList eventsBefore = host.events().names();
     callEverything(host);

@@ -133,7 +133,7 @@ TEST(SampleSibling, BuiltFromTheInstalledPackageDrivesTheRibbonAndTheExportTable
                   "SAMPLELOAD: cannot read nul.json: it holds a NUL byte (at byte 2), so it is "
                   "not text",
                   "SAMPLELOAD: cannot read latin1.json: it is not UTF-8 text",
-                  "SAMPLELOAD: cannot read /dev/zero: it is a device, not a regular file",
+                  "SAMPLELOAD: cannot read /dev/zero: it is not a regular file",
                   "SAMPLEVISIBILITY: answer 0 to hide the entry or 1 to show it",
                   "SAMPLELOAD: 1 records loaded",
                   "SAMPLELOAD: 2 records loaded",

@@ -1,18 +1,18 @@
 #include "LoadedModule.h"
 
-#include <OdRxDynamicLinker.h>
+#include <OdHostDynamicLinker.h>
 
 void LoadedModule::useFolder(const QString& folder)
 {
-    odrxDynamicLinker()->setSearchPath({toOdString(folder.isEmpty() ? stageFolder() : folder)});
+    odrxHostDynamicLinker()->setSearchPath({toOdString(folder.isEmpty() ? stageFolder() : folder)});
 }
 
 LoadedModule::LoadedModule(const QString& name) : m_name(name)
 {
-    if (odrxDynamicLinker()->searchPath().empty())
+    if (odrxHostDynamicLinker()->searchPath().empty())
         useFolder();
     // A module that cannot be loaded throws OdError, a std::exception that names it.
-    OdRxModulePtr module = odrxDynamicLinker()->loadModule(toOdString(name), false);
+    OdRxModulePtr module = odrxHostDynamicLinker()->loadModule(toOdString(name), false);
     m_module = module.get();
     m_path = toQString(m_module->moduleName());
 }
@@ -27,7 +27,7 @@ bool LoadedModule::unload()
     if (!m_module)
         return false;
     m_module = nullptr;
-    const bool unloaded = odrxDynamicLinker()->unloadModule(toOdString(m_name));
-    odrxDynamicLinker()->unloadUnreferenced();
+    const bool unloaded = odrxHostDynamicLinker()->unloadModule(toOdString(m_name));
+    odrxHostDynamicLinker()->unloadUnreferenced();
     return unloaded;
 }

@@ -8,8 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <CFxHostUI.h>
 #include <CFxJsonTextWriter.h>
-#include <CFxUI.h>
 #include <CFxUIJsonReader.h>
 #include <CFxUIJsonWriter.h>
 #include <OdError.h>
@@ -29,7 +29,7 @@ QString errorOf(const std::function<void()>& read)
     return "<read without error>";
 }
 
-CFxUIGroup* mainGroup(const CFxUI& ui)
+CFxUIGroup* mainGroup(const CFxHostUI& ui)
 {
     for (CFxUIGroup* group : ui.GetMenuGroups()) {
         if (group->IsMainGroup())
@@ -49,7 +49,7 @@ QStringList ids(const CFxUIList<CFxUIRibbonButton>& list)
 
 TEST(UiList, HoldsAnObjectOnceAndPutsItLastAfterAnAnchorItDoesNotHold)
 {
-    CFxUI ui;
+    CFxHostUI ui;
     auto* a = ui.CreateRibbonButton(CFxUIRibbonButton::kCommand, "A");
     auto* b = ui.CreateRibbonButton(CFxUIRibbonButton::kCommand, "B");
     auto* c = ui.CreateRibbonButton(CFxUIRibbonButton::kCommand, "C");
@@ -70,7 +70,7 @@ TEST(UiList, HoldsAnObjectOnceAndPutsItLastAfterAnAnchorItDoesNotHold)
 
 TEST(UiList, FindsTheFirstHolderOfAnIdentifierInAnyCaseAsEntriesComeGoAndAreRenamed)
 {
-    CFxUI ui;
+    CFxHostUI ui;
     auto* first = ui.CreateRibbonButton(CFxUIRibbonButton::kCommand, "DUP");
     auto* second = ui.CreateRibbonButton(CFxUIRibbonButton::kCommand, "dup");
     auto* umlaut = ui.CreateRibbonButton(CFxUIRibbonButton::kCommand, "\xc3\x84RGER");
@@ -107,7 +107,7 @@ TEST(UiList, FindsTheFirstHolderOfAnIdentifierInAnyCaseAsEntriesComeGoAndAreRena
 
 TEST(UiModel, CommandsAreFoundInTheirGroupAndADeletedOneIsReferredToNowhere)
 {
-    CFxUI ui;
+    CFxHostUI ui;
     CFxUIGroup* group = ui.CreateMenuGroup("QUILLON");
     ui.GetMenuGroups().Append(group);
     ui.GetMenuGroups().Append(ui.CreateMenuGroup("CUSTOM"));
@@ -134,7 +134,7 @@ TEST(UiModel, CommandsAreFoundInTheirGroupAndADeletedOneIsReferredToNowhere)
     EXPECT_EQ(group->GetCommands().GetCount(), 1);
     EXPECT_EQ(ui.FindCommand("QUILLON", "ID_KEPT"), kept);
 
-    CFxUI otherUi;
+    CFxHostUI otherUi;
     CFxUICommand* foreign = otherUi.CreateCommand("ID_FOREIGN", nullptr);
     ui.DeleteCommand(foreign);
     ui.DeleteCommand(nullptr);
@@ -143,7 +143,7 @@ TEST(UiModel, CommandsAreFoundInTheirGroupAndADeletedOneIsReferredToNowhere)
 
 TEST(UiProfile, TheDefaultProfileLinksItsObjectsAndSurvivesWritingAndReading)
 {
-    CFxUI ui;
+    CFxHostUI ui;
     CFxUIJsonReader::readFile(EC_SOURCE_DIR "/host/profiles/default.json", ui);
     CFxUIGroup* main = mainGroup(ui);
     ASSERT_NE(main, nullptr);
@@ -178,7 +178,7 @@ TEST(UiProfile, TheDefaultProfileLinksItsObjectsAndSurvivesWritingAndReading)
         EXPECT_EQ(CFxUIJsonWriter::writeText(ui, format == QJsonDocument::Compact),
                   QJsonDocument(written).toJson(format))
             << format;
-    CFxUI reread;
+    CFxHostUI reread;
     CFxUIJsonReader::read(written, reread);
     EXPECT_EQ(CFxUIJsonWriter::write(reread), written);
     const QJsonArray items = written["groups"][1]["applicationMenu"][0]["items"].toArray();
@@ -221,7 +221,7 @@ TEST(UiProfile, ErrorsNameThePlaceInTheProfileOrTheFile)
          "/groups/0/commands/0", "'largeIcon' holds 3 icons"},
     };
     for (const auto& bad : cases) {
-        CFxUI ui;
+        CFxHostUI ui;
         const QString error = errorOf(
             [&] { CFxUIJsonReader::read(QJsonDocument::fromJson(bad[0].toUtf8()).object(), ui); });
         EXPECT_TRUE(error.startsWith(bad[1] + ": ") && error.contains(bad[2])) << qPrintable(error);
@@ -235,7 +235,7 @@ TEST(UiProfile, ErrorsNameThePlaceInTheProfileOrTheFile)
     file.close();
     for (const auto& bad : {std::pair(broken, "not valid JSON"),
                             std::pair(folder.filePath("missing.json"), "cannot be read")}) {
-        CFxUI ui;
+        CFxHostUI ui;
         const QString error = errorOf([&] { CFxUIJsonReader::readFile(bad.first, ui); });
         EXPECT_TRUE(error.startsWith(bad.first + ": " + bad.second)) << qPrintable(error);
     }
@@ -269,7 +269,7 @@ TEST(UiProfile, ThousandsOfTabsAndCommandsAreReadAndFoundByIdentifier)
                                           {"menus", QJsonArray{QJsonObject{{"id", "M"}}}}}}},
         {"workspaces", QJsonArray{QJsonObject{{"name", "W"}, {"tabs", workspaceTabs}}}}};
 
-    CFxUI ui;
+    CFxHostUI ui;
     CFxUIJsonReader::read(profile, ui);
     const CFxUIWorkspace* workspace = ui.FindWorkspace("W");
     ASSERT_NE(workspace, nullptr);

@@ -1,9 +1,14 @@
 #pragma once
 
-#include "OdReactorAttachments.h"
 #include "OdRxEventReactor.h"
 #include "OdString.h"
 #include "TD_RootExport.h"
+
+#include <memory>
+
+class OdReactorAttachments;
+template <class R>
+class OdReactorList;
 
 // Hears of what happens in the editor (attach it with odedEditor()->addReactor). A reactor
 // destroyed while still attached detaches itself.
@@ -17,8 +22,11 @@ public:
     virtual void commandWillStart(const OdString& globalName);
     virtual void commandEnded(const OdString& globalName);
 
-    OdReactorAttachments& reactorAttachments() { return m_attachments; }
-
 private:
-    OdReactorAttachments m_attachments;
+    // The editors it is attached to, which the host's reactor list keeps up to date.
+    template <class R>
+    friend class OdReactorList;
+    OdReactorAttachments& reactorAttachments() { return *m_attachments; }
+
+    std::unique_ptr<OdReactorAttachments> m_attachments;
 };

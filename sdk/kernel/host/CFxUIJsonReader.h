@@ -6,7 +6,7 @@
 #include <QJsonObject>
 #include <QString>
 
-class CFxUI;
+class CFxHostUI;
 class CFxUICommand;
 class CFxUIGroup;
 class CFxUIRibbonButton;
@@ -23,12 +23,12 @@ class CFxUIRibbonTab;
 class FX_KERNEL_EXPORT CFxUIJsonReader
 {
 public:
-    static void read(const QJsonObject& profile, CFxUI& ui);
+    static void read(const QJsonObject& profile, CFxHostUI& ui);
     // Reads the profile file at `path`.
-    static void readFile(const QString& path, CFxUI& ui);
+    static void readFile(const QString& path, CFxHostUI& ui);
 
 private:
-    explicit CFxUIJsonReader(CFxUI& ui);
+    explicit CFxUIJsonReader(CFxHostUI& ui);
 
     void readGroup(const QJsonObject& json, const QString& path);
     void readMenu(const QJsonObject& json, const QString& path, CFxUIGroup& group);
@@ -45,7 +45,7 @@ private:
                       const char* what);
     static QString key(const QString& identifier);
 
-    CFxUI& m_ui;
+    CFxHostUI& m_ui;
     QString m_mainGroupPath;
     QHash<QString, QString> m_groupPaths;
     QHash<QString, QString> m_tabPaths;

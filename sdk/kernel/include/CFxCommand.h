@@ -21,7 +21,4 @@ public:
     virtual int runCommand(OdEdCommandContext* context) = 0;
     virtual void Help();
     virtual int GetHelpId() const;
-
-    // The group of commands that do not choose their own.
-    static const wchar_t* defaultGroupName() { return L"QUILLON_COMMANDS"; }
 };

@@ -19,10 +19,8 @@ public:
     ~CFxUIGroup() override;
 
     bool IsMainGroup() const { return m_main; }
-    void SetMainGroup(bool main) { m_main = main; }
     // Whether the group takes menu items added at run time (a read-only group does not).
     bool IsEditable() const { return m_editable; }
-    void SetEditable(bool editable) { m_editable = editable; }
 
     CFxUIList<CFxUIPullDownMenu>& GetPullDownMenus() { return m_menus; }
     const CFxUIList<CFxUIPullDownMenu>& GetPullDownMenus() const { return m_menus; }
@@ -41,6 +39,9 @@ public:
     }
 
 private:
+    // The host says which group is which as it makes the model.
+    friend class CFxHostUI;
+
     bool m_main = false;
     bool m_editable = false;
     CFxUIList<CFxUIPullDownMenu> m_menus;

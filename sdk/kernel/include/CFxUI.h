@@ -13,6 +13,7 @@
 #include <functional>
 #include <memory>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 // The host's user-interface model: menu groups with their pull-down menus, ribbon tabs,
@@ -25,27 +26,19 @@
 class FX_KERNEL_EXPORT CFxUI
 {
 public:
-    CFxUI();
-    ~CFxUI();
+    virtual ~CFxUI();
     CFxUI(const CFxUI&) = delete;
     CFxUI& operator=(const CFxUI&) = delete;
 
-    CFxUIList<CFxUIGroup>& GetMenuGroups() { return m_groups; }
-    const CFxUIList<CFxUIGroup>& GetMenuGroups() const { return m_groups; }
     // The caller deletes the iterator.
     CFxUIGroupIterator* NewGroupIterator() const;
     CFxUIGroup* GetReferenceMenuGroup() const { return m_referenceGroup; }
-    void SetReferenceMenuGroup(CFxUIGroup* group) { m_referenceGroup = group; }
 
-    CFxUIList<CFxUIWorkspace>& GetWorkspaces() { return m_workspaces; }
-    const CFxUIList<CFxUIWorkspace>& GetWorkspaces() const { return m_workspaces; }
     CFxUIWorkspace* FindWorkspace(const CFxString& name) const;
 
     // The root of the ribbon's system menu; its sub-items are the menu.
     CFxUIRibbonSystemMenuItem* GetRibbonSystemMenu() const { return m_systemMenu; }
 
-    CFxUIGroup* CreateMenuGroup(const CFxString& identifier);
-    CFxUIPullDownMenu* CreatePullDownMenu(const CFxString& identifier);
     CFxUIMenuItem* CreateMenuItem();
     // The entry is shown at the end of `menu`.
     CFxUIMenuEntry* CreateMenuEntry(CFxUIPullDownMenu* menu);
@@ -55,7 +48,6 @@ public:
     // `kind` is one of CFxUIRibbonButton::Kind; null for any other code.
     CFxUIRibbonButton* CreateRibbonButton(int kind, const CFxString& identifier);
     CFxUIRibbonSystemMenuItem* CreateRibbonSystemMenuItem(const CFxString& identifier);
-    CFxUIWorkspace* CreateWorkspace(const CFxString& name);
 
     // A new command; with an owner it is also added to the owner's command list.
     CFxUICommand* CreateCommand(const CFxString& identifier, CFxUIGroup* owner);
@@ -67,11 +59,23 @@ public:
 
     // Tells the host's window to show the model as it is now.
     void Update();
-    void SetUpdateHandler(std::function<void()> handler);
+
+protected:
+    // The host makes the model and puts its groups and workspaces in place (CFxHostUI).
+    CFxUI();
 
 private:
+    friend class CFxHostUI;
+
+    // Makes an object that the model owns from now on.
     template <class T, class... Args>
-    T* make(Args&&... args);
+    T* make(Args&&... args)
+    {
+        auto object = std::make_unique<T>(std::forward<Args>(args)...);
+        T* raw = object.get();
+        m_objects.emplace(raw, std::move(object));
+        return raw;
+    }
 
     std::unordered_map<const CFxUIObject*, std::unique_ptr<CFxUIObject>> m_objects;
     // Every group made, in or out of the model, whose command lists a deleted command leaves.

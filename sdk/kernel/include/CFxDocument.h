@@ -12,7 +12,6 @@
 class FX_KERNEL_EXPORT CFxDocument
 {
 public:
-    CFxDocument(int index, QString pathName, OdDbDatabasePtr database = {});
     virtual ~CFxDocument();
     CFxDocument(const CFxDocument&) = delete;
     CFxDocument& operator=(const CFxDocument&) = delete;
@@ -23,6 +22,10 @@ public:
     OdDbDatabase* GetFxDatabase() const { return m_database.get(); }
 
 private:
+    // Documents come into being as the host opens them.
+    friend class CFxHostDocumentManager;
+    CFxDocument(int index, QString pathName, OdDbDatabasePtr database);
+
     int m_index;
     QString m_pathName;
     OdDbDatabasePtr m_database;

@@ -1,46 +1,40 @@
 #pragma once
 
-#include "OdDb.h"
 #include "OdDbBlockTableRecord.h"
+#include "OdDbDatabase.h"
 #include "OdDbObjectId.h"
 #include "OdDxfGroup.h"
-#include "OdRxObject.h"
-#include "OdSmartPtr.h"
-#include "OdStreamBuf.h"
-#include "OdString.h"
 #include "TD_DbExport.h"
+
+#include <QByteArray>
 
 #include <vector>
 
-class OdDbDatabase;
-using OdDbDatabasePtr = OdSmartPtr<OdDbDatabase>;
+class OdDbDxfDatabase;
+using OdDbDxfDatabasePtr = OdSmartPtr<OdDbDxfDatabase>;
 
-// A drawing: every group of the DXF file it was read from, in order, and the block records
-// that those groups define. Writing it gives back, group for group, what was read.
-class TD_DB_EXPORT OdDbDatabase : public OdRxObject
+// The drawings of the reference platform: every group of the ASCII DXF file a drawing was read
+// from, in order, and the block records that those groups define. Writing it gives back, group
+// for group, what was read.
+class TD_DB_EXPORT OdDbDxfDatabase : public OdDbDatabase
 {
 public:
-    ~OdDbDatabase() override;
+    ~OdDbDxfDatabase() override;
 
     // Reads the drawing at `path` through the system services. Throws OdError, with the
     // reason, when the file cannot be read or is not an ASCII DXF drawing.
-    static OdDbDatabasePtr readFile(const OdString& path);
+    static OdDbDxfDatabasePtr readFile(const OdString& path);
     // Reads, of the drawing at `path`, only what names its external references: the file is
     // read as a stream up to the end of its BLOCKS section, and the database holds the block
     // headers alone (writing it writes those). Damage after that section goes unseen; damage
     // before it throws OdError as readFile does.
-    static OdDbDatabasePtr readReferences(const OdString& path);
-    // `object` as a database; null when it is none.
-    static OdDbDatabasePtr cast(const OdRxObject* object);
+    static OdDbDxfDatabasePtr readReferences(const OdString& path);
+    // `object` as such a database; null when it is none.
+    static OdDbDxfDatabasePtr cast(const OdRxObject* object);
 
-    // The absolute path the drawing was read from.
-    const OdString& getFilename() const { return m_fileName; }
-
-    // Writes the drawing into `stream`. The version code and the DXF precision are accepted
-    // as the platform's and otherwise not looked at; the thumbnail is the one the drawing
-    // holds, if any. Throws OdError for a null stream, for kDxb, or when the stream fails.
+    const OdString& getFilename() const override { return m_fileName; }
     void writeFile(OdStreamBuf* stream, OdDb::SaveType fileType, OdDb::DwgVersion fileVersion,
-                   bool saveThumbnailImage = false, int dxfPrecision = 16) const;
+                   bool saveThumbnailImage = false, int dxfPrecision = 16) const override;
 
     const std::vector<OdDxfGroup>& groups() const { return m_groups; }
 
@@ -51,7 +45,7 @@ public:
     OdDbObjectPtr objectAt(int index) const;
 
 protected:
-    OdDbDatabase(OdString fileName, std::vector<OdDxfGroup> groups, QByteArray lineEnding);
+    OdDbDxfDatabase(OdString fileName, std::vector<OdDxfGroup> groups, QByteArray lineEnding);
 
 private:
     void readBlocks();

@@ -18,9 +18,13 @@ public:
     const CFxString& GetIdentifier() const { return m_identifier; }
     // Renaming an object makes every list's identifier index stale (see CFxUIList).
     void SetIdentifier(const CFxString& identifier);
-    // How many times any object of the model was renamed in this process.
-    static std::uint64_t identifierChanges();
 
 private:
+    // How many times any object of the model was renamed in this process: the lists' identifier
+    // indexes are current while it stays as it was when they were made.
+    template <class T>
+    friend class CFxUIList;
+    static std::uint64_t identifierChanges();
+
     CFxString m_identifier;
 };

@@ -8,7 +8,7 @@
 // A drawing of an external-reference graph. The root node is the drawing the graph was made
 // from (no block record); every other node is a referenced drawing, named by the block record
 // through which it was first reached, with its database when the file could be read (for a
-// referenced drawing, a database of its references alone: see OdDbDatabase::readReferences).
+// referenced drawing, a database of its references alone).
 class TD_DB_EXPORT OdDbXrefGraphNode : public OdDbGraphNode
 {
 public:

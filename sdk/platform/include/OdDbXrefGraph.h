@@ -22,8 +22,8 @@ public:
     // node. A reference back to a drawing that is being followed (a circular reference) is
     // left out, so the graph has no cycles. A file that is missing or not a readable drawing
     // is a node without a database and without references. Of each referenced file only the
-    // part up to its block definitions is read (OdDbDatabase::readReferences), and the walk
-    // needs no stack of its own however long a chain of references is.
+    // part up to its block definitions is read, and the walk needs no stack of its own however
+    // long a chain of references is.
     static OdResult getFrom(OdDbDatabase* database, OdDbXrefGraph& graph);
 
     OdDbXrefGraphNode* xrefNode(int index) const;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "CFxHostDocumentManager.h"
+#include "CFxHostUI.h"
 #include "CFxSystemServices.h"
 #include "FxKernelExport.h"
 
@@ -21,18 +23,20 @@ public:
     void GetProductVersion(int& release, int& serviceRelease, int& servicePack,
                            int& build) const override;
     int GetCurrentLanguageId() const override;
-    CFxDocumentManager* GetDocumentManager() override;
+    CFxHostDocumentManager* GetDocumentManager() override;
     int FxMessageBox(const CFxString& text, const CFxString& caption, int flags) override;
-    QWidget* GetMainFrame() const override;
-    CFxUI* GetUI() const override;
+    CFxHostUI* GetUI() const override;
     QUuid GetInstallationId() const override;
+
+    // The host's main window, or null while there is none.
+    QWidget* GetMainFrame() const;
 
     // The host's own version: until it is set, every number is 0.
     void SetProductVersion(int release, int serviceRelease, int servicePack, int build);
     void SetCurrentLanguageId(int languageId);
     // Without a handler a message only becomes a message-box event; with one it is also shown.
     void SetMessageBoxHandler(MessageBoxHandler handler);
-    void SetUI(std::unique_ptr<CFxUI> ui);
+    void SetUI(std::unique_ptr<CFxHostUI> ui);
     void SetInstallationId(const QUuid& id);
 
     // The host's main window came into being / is about to go: every editor reactor that is a
@@ -43,9 +47,9 @@ public:
 private:
     int m_version[4] = {0, 0, 0, 0};
     int m_languageId = 2;
-    CFxDocumentManager m_documents;
+    CFxHostDocumentManager m_documents;
     MessageBoxHandler m_messageBoxHandler;
-    std::unique_ptr<CFxUI> m_ui;
+    std::unique_ptr<CFxHostUI> m_ui;
     QUuid m_installationId;
     QWidget* m_mainFrame = nullptr;
 };

@@ -1,25 +1,27 @@
 #pragma once
 
 #include "CFxDocument.h"
+#include "CFxDocumentManager.h"
 #include "CFxDocumentManagerReactor.h"
 #include "FxKernelExport.h"
+
+#include <QString>
 
 #include <OdReactorList.h>
 
 #include <memory>
 #include <vector>
 
-// The host's open documents and the reactors that follow them.
-class FX_KERNEL_EXPORT CFxDocumentManager
+// The host's side of the document manager that modules see as CFxDocumentManager: the host
+// opens, activates and closes documents here, and the attached reactors hear of each step.
+class FX_KERNEL_EXPORT CFxHostDocumentManager final : public CFxDocumentManager
 {
 public:
-    CFxDocumentManager();
-    ~CFxDocumentManager();
-    CFxDocumentManager(const CFxDocumentManager&) = delete;
-    CFxDocumentManager& operator=(const CFxDocumentManager&) = delete;
+    CFxHostDocumentManager();
+    ~CFxHostDocumentManager() override;
 
-    void AddReactor(CFxDocumentManagerReactor* reactor);
-    void RemoveReactor(CFxDocumentManagerReactor* reactor);
+    void AddReactor(CFxDocumentManagerReactor* reactor) override;
+    void RemoveReactor(CFxDocumentManagerReactor* reactor) override;
     bool HasReactor(const CFxDocumentManagerReactor* reactor) const;
 
     // Opens `pathName` as a new document, holding `database` (null for a file that is not a
@@ -31,7 +33,7 @@ public:
     // Closes every document, the latest first.
     void CloseAll();
 
-    CFxDocument* GetActiveDocument() const { return m_active; }
+    CFxDocument* GetActiveDocument() const override { return m_active; }
     CFxDocument* GetDocument(int index) const;
     int GetDocumentCount() const { return static_cast<int>(m_documents.size()); }
 

@@ -34,13 +34,16 @@ public:
     QWidget* GetExtendedTooltip() const { return m_extendedTooltip; }
     void SetExtendedTooltip(QWidget* tooltip) { m_extendedTooltip = tooltip; }
 
+private:
     // The buttons and menu entries that have the command attached, kept by their
     // AttachCommand, so that deleting the command visits those alone.
+    friend class CFxUI;
+    friend class CFxUIRibbonButton;
+    friend class CFxUIRibbonSystemMenuItem;
     const std::unordered_set<CFxUIObject*>& GetHolders() const { return m_holders; }
     void AddHolder(CFxUIObject* holder) { m_holders.insert(holder); }
     void RemoveHolder(CFxUIObject* holder) { m_holders.erase(holder); }
 
-private:
     CFxString m_macro;
     CFxString m_actionId;
     CFxString m_name;

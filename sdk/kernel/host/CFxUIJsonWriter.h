@@ -4,7 +4,7 @@
 
 #include <QJsonObject>
 
-class CFxUI;
+class CFxHostUI;
 
 // Writes the whole user-interface model as JSON: every container in order, with identifiers,
 // texts, flags and attached commands. A command that stands in its group's command list is
@@ -13,9 +13,9 @@ class CFxUI;
 class FX_KERNEL_EXPORT CFxUIJsonWriter
 {
 public:
-    static QJsonObject write(const CFxUI& ui);
+    static QJsonObject write(const CFxHostUI& ui);
     // The same model as JSON text, byte for byte what QJsonDocument(write(ui)).toJson() gives,
     // compact or indented; written as the model is walked, without recursion, so that its
     // cost grows with the model's size however deeply split buttons nest.
-    static QByteArray writeText(const CFxUI& ui, bool compact);
+    static QByteArray writeText(const CFxHostUI& ui, bool compact);
 };

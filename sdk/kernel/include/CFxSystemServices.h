@@ -8,11 +8,10 @@
 #include <QUuid>
 
 class CFxUI;
-class QWidget;
 
 // What a module may ask of the host, through GetFxSystemServices(): only questions and the
 // message box. Setting these values up and telling reactors about the main window belong to the
-// host alone (CFxHostServices), so a module cannot reach them by mistake.
+// host alone, so a module cannot reach them by mistake.
 class FX_KERNEL_EXPORT CFxSystemServices
 {
 public:
@@ -28,8 +27,6 @@ public:
     virtual CFxDocumentManager* GetDocumentManager() = 0;
     // Shows a message to the user and returns the button chosen (1 for OK).
     virtual int FxMessageBox(const CFxString& text, const CFxString& caption, int flags) = 0;
-    // The host's main window, or null while there is none.
-    virtual QWidget* GetMainFrame() const = 0;
     // The host's user-interface model, or null while it has none.
     virtual CFxUI* GetUI() const = 0;
     // The identifier of this installation of the host (handed to the task pane).

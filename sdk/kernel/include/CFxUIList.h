@@ -62,14 +62,6 @@ public:
         place(m_items.end(), item);
     }
 
-    // Puts `item` last without looking for it first: only for an object that the list cannot
-    // hold yet (one just made), so that filling a list takes time in proportion to its length.
-    void AppendNew(T* item)
-    {
-        if (item)
-            place(m_items.end(), item);
-    }
-
     // Puts `item` right after `anchor`; a null anchor puts it first. An anchor that the list
     // does not hold puts the item last and returns false.
     bool InsertAfter(T* anchor, T* item)
@@ -133,6 +125,18 @@ public:
     typename Items::const_iterator end() const { return m_items.cend(); }
 
 private:
+    // The model and the host's profile reader fill lists with objects they have just made.
+    friend class CFxUI;
+    friend class CFxUIJsonReader;
+
+    // Puts `item` last without looking for it first: only for an object that the list cannot
+    // hold yet (one just made), so that filling a list takes time in proportion to its length.
+    void AppendNew(T* item)
+    {
+        if (item)
+            place(m_items.end(), item);
+    }
+
     void place(typename Items::iterator before, T* item)
     {
         m_where.emplace(item, m_items.insert(before, item));

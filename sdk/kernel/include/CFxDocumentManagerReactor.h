@@ -2,9 +2,12 @@
 
 #include "FxKernelExport.h"
 
-#include <OdReactorAttachments.h>
+#include <memory>
 
 class CFxDocument;
+class OdReactorAttachments;
+template <class R>
+class OdReactorList;
 
 // Hears of documents being created, closed and activated (attach it with the document
 // manager's AddReactor). A reactor destroyed while still attached detaches itself.
@@ -22,8 +25,11 @@ public:
     // The last document has been closed.
     virtual void DocumentsClosed();
 
-    OdReactorAttachments& reactorAttachments() { return m_attachments; }
-
 private:
-    OdReactorAttachments m_attachments;
+    // The document managers it is attached to, which the host's reactor list keeps up to date.
+    template <class R>
+    friend class OdReactorList;
+    OdReactorAttachments& reactorAttachments() { return *m_attachments; }
+
+    std::unique_ptr<OdReactorAttachments> m_attachments;
 };
