@@ -15,6 +15,8 @@ import os
 import re
 import sys
 
+from checker_support import report
+
 PAGE = os.path.join("docs", "lifecycle.md")
 FOLDERS = ("src", "include", "tests", "docs", "samples")
 SUFFIXES = (".h", ".cpp", ".md", ".txt", ".cmake", ".in")
@@ -89,10 +91,7 @@ def main(arguments):
         print("usage: check-lifecycle.py REPOSITORY (the folder that holds %s)" % PAGE,
               file=sys.stderr)
         return 2
-    found = list(problems(arguments[0]))
-    for problem in found:
-        print(problem, file=sys.stderr)
-    return 1 if found else 0
+    return report(problems(arguments[0]))
 
 
 if __name__ == "__main__":

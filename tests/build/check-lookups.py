@@ -13,6 +13,8 @@ import os
 import re
 import sys
 
+from checker_support import report
+
 COMPARISON = re.compile(
     r"\.(equalNoCase|compare|FindFirst|toCaseFolded|foldedKey)\s*\("
     r"|Qt::Case(Insensitive|Sensitive)"
@@ -47,10 +49,7 @@ def main(arguments):
     if len(arguments) != 1 or not os.path.isdir(arguments[0]):
         print("usage: check-lookups.py SRC_DIR", file=sys.stderr)
         return 2
-    found = list(offences(arguments[0]))
-    for offence in found:
-        print(offence, file=sys.stderr)
-    return 1 if found else 0
+    return report(offences(arguments[0]))
 
 
 if __name__ == "__main__":

@@ -6,6 +6,8 @@ import sys
 import tempfile
 import unittest
 
+from checker_support import run_on_tree
+
 CHECKER = os.path.join(os.path.dirname(os.path.abspath(__file__)), "check-lifecycle.py")
 
 PAGE = """# What the module adds
@@ -31,15 +33,7 @@ CLEAN = {
 
 class LifecycleChecker(unittest.TestCase):
     def run_checker(self, changes):
-        with tempfile.TemporaryDirectory() as top:
-            for name, text in {**CLEAN, **changes}.items():
-                path = os.path.join(top, name)
-                os.makedirs(os.path.dirname(path), exist_ok=True)
-                with open(path, "w", encoding="utf-8") as stream:
-                    stream.write(text)
-            result = subprocess.run([sys.executable, CHECKER, top], capture_output=True,
-                                    text=True, check=False)
-        return result.returncode, result.stderr
+        return run_on_tree(CHECKER, {**CLEAN, **changes}, lambda top: [top])
 
     def test_a_page_whose_tests_exist_and_whose_rows_are_pointed_to_by_name_passes(self):
         self.assertEqual(self.run_checker({}), (0, ""))
@@ -79,7 +73,7 @@ class LifecycleChecker(unittest.TestCase):
 
     def test_a_folder_without_the_page_is_a_usage_error(self):
         with tempfile.TemporaryDirectory() as top:
-            result = subprocess.run([sys.executable, CHECKER, top], capture_output=True,
+            result = subprocess.run([sys.executable, "-B", CHECKER, top], capture_output=True,
                                     text=True, check=False)
         self.assertEqual(result.returncode, 2)
         self.assertIn("usage: check-lifecycle.py REPOSITORY", result.stderr)

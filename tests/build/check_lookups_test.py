@@ -3,8 +3,9 @@ identifiers up through common/IdentifierMatch.h and names every place that compa
 import os
 import subprocess
 import sys
-import tempfile
 import unittest
+
+from checker_support import run_on_tree
 
 CHECKER = os.path.join(os.path.dirname(os.path.abspath(__file__)), "check-lookups.py")
 
@@ -26,15 +27,7 @@ CLEAN = {
 
 class LookupChecker(unittest.TestCase):
     def run_checker(self, changes):
-        with tempfile.TemporaryDirectory() as top:
-            for name, text in {**CLEAN, **changes}.items():
-                path = os.path.join(top, name)
-                os.makedirs(os.path.dirname(path), exist_ok=True)
-                with open(path, "w", encoding="utf-8") as stream:
-                    stream.write(text)
-            result = subprocess.run([sys.executable, CHECKER, os.path.join(top, "src")],
-                                    capture_output=True, text=True, check=False)
-        return result.returncode, result.stderr
+        return run_on_tree(CHECKER, {**CLEAN, **changes}, lambda top: [os.path.join(top, "src")])
 
     def test_a_tree_that_asks_the_rules_home_passes_quietly(self):
         self.assertEqual(self.run_checker({}), (0, ""))
@@ -70,7 +63,7 @@ class LookupChecker(unittest.TestCase):
         self.assertIn("src/ribbon/CompanionSettings.cpp:1:", report)
 
     def test_a_missing_source_folder_is_a_usage_error(self):
-        result = subprocess.run([sys.executable, CHECKER, "/nonexistent/src"],
+        result = subprocess.run([sys.executable, "-B", CHECKER, "/nonexistent/src"],
                                 capture_output=True, text=True, check=False)
         self.assertEqual((result.returncode, result.stderr), (2, "usage: check-lookups.py SRC_DIR\n"))
 
