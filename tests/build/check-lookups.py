@@ -34,7 +34,8 @@ def offences(root):
         for name in sorted(files):
             path = os.path.join(folder, name)
             relative = os.path.relpath(path, root)
-            if not name.endswith(SOURCE_SUFFIXES) or relative in HOME or relative in NOT_IDENTIFIERS:
+            skipped = relative in HOME or relative in NOT_IDENTIFIERS
+            if skipped or not name.endswith(SOURCE_SUFFIXES):
                 continue
             with open(path, encoding="utf-8", errors="replace") as stream:
                 for number, line in enumerate(stream, 1):

@@ -14,7 +14,8 @@ PAGE = """# What the module adds
 
 | row | comes | goes | checked by |
 |---|---|---|---|
-| Help entries | at creation | by text (row "One pass") | `MainFrameTest.TakesThemOut`, `Place.InAnyMenu` |
+| Help entries | at creation | by text (row "One pass") | \
+`MainFrameTest.TakesThemOut`, `Place.InAnyMenu` |
 | One pass | | | `Unloading.OnePass` |
 | Ribbon singletons | | never | the leak check |
 """

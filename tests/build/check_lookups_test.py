@@ -19,8 +19,8 @@ CLEAN = {
     "src/ribbon/Rows.cpp": "if (IdentifierMatch::inAnyCase(row->GetIdentifier(), rowId))\n"
                            "    // Not .compare(rowId) == 0: rows match in any letter case.\n",
     "src/module/CrashReportVersionRule.cpp": "current.compare(recorded, Qt::CaseInsensitive);\n",
-    "src/module/CompanionSettings.cpp": "value.compare(QLatin1String(\"yes\"), Qt::CaseInsensitive);\n",
-    "src/locale/ProductPage.cpp": "segment.compare(QLatin1String(\"/english\"), Qt::CaseInsensitive);\n",
+    "src/module/CompanionSettings.cpp": "value.compare(yes, Qt::CaseInsensitive);\n",
+    "src/locale/ProductPage.cpp": "segment.compare(english, Qt::CaseInsensitive);\n",
     "src/menus/notes.txt": "menu->GetIdentifier().compare(kHelpMenuId)\n",
 }
 
@@ -36,7 +36,8 @@ class LookupChecker(unittest.TestCase):
         status, report = self.run_checker({
             "src/menus/Help.cpp": "int unused;\n"
                                   "if (menu->GetIdentifier().compare(kHelpMenuId) == 0)\n"
-                                  "if (item->GetIdentifier().equalNoCase(id)) return list.FindFirst(id);\n",
+                                  "if (item->GetIdentifier().equalNoCase(id)) "
+                                  "return list.FindFirst(id);\n",
             "src/ribbon/Table.h": "map[id.toCaseFolded()] = key.foldedKey();\n"
                                   "a.compare(b, Qt::CaseSensitive);\n",
             "src/ribbon/Buttons.cpp": "if (button->GetIdentifier() == wanted)\n"
@@ -65,7 +66,8 @@ class LookupChecker(unittest.TestCase):
     def test_a_missing_source_folder_is_a_usage_error(self):
         result = subprocess.run([sys.executable, "-B", CHECKER, "/nonexistent/src"],
                                 capture_output=True, text=True, check=False)
-        self.assertEqual((result.returncode, result.stderr), (2, "usage: check-lookups.py SRC_DIR\n"))
+        self.assertEqual((result.returncode, result.stderr),
+                         (2, "usage: check-lookups.py SRC_DIR\n"))
 
 
 if __name__ == "__main__":
