@@ -29,7 +29,7 @@ constexpr Language kLanguages[] = {
     {7, QT_TRANSLATE_NOOP("QObject", "French"), QLocale::French, true, "french"},
     // Both texts are what the host's own table holds, colons included: the translations
     // folder on disk and the web pages' path carry them exactly so, and a "fixed" name would
-    // find neither.
+    // find neither (docs/lifecycle.md, row "Language folders").
     {LanguageTable::kTraditionalChineseId,
      QT_TRANSLATE_NOOP("QObject", "QObject::traditional Chinese"), QLocale::Chinese, true,
      "chinese/QObject::traditional"},

@@ -13,8 +13,8 @@ constexpr char kProductPageTemplate[] =
 
 // The language's translations folder as a path: "/german", "/chinese/simplified". English
 // pages sit at the site's root. A folder of the separator alone (the "System" entry and the
-// default entry) stays "/" and so doubles the slash behind the host name. The web site serves
-// the page either way; cleaning it up would only change the address that others compare.
+// default entry) stays "/" and so doubles the slash behind the host name. Kept:
+// docs/lifecycle.md, row "Doubled slash".
 QString languageSegment(const LanguageEntry& language)
 {
     const QString segment = QDir::cleanPath(language.folder.toQString());

@@ -5,9 +5,8 @@
 struct LanguageEntry;
 
 // Installs a translator for each of the module's catalogues, read from a language's folder
-// below the messages folder. Three of the catalogues are the companions' texts, which are
-// shown after the module is gone: the translators are never removed nor freed, and a second
-// call installs a second set above the first.
+// below the messages folder. The translators are never removed nor freed, and a second call
+// installs a second set above the first: docs/lifecycle.md, row "Translators".
 class TranslatorInstaller
 {
 public:

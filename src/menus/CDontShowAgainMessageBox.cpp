@@ -19,9 +19,9 @@ QString settingsFolder()
 }
 
 // Opens the file shared by every message box. Making the folder by its own name, relative to
-// itself, creates the whole chain and also one empty nested folder of that name inside it;
-// the nested folder is kept on purpose, so that the layout of the users' profiles does not
-// change. A folder that cannot be made is no error: the choices then just do not persist.
+// itself, creates the whole chain and also one empty nested folder of that name inside it,
+// which is kept: docs/lifecycle.md, row "Message-box settings". A folder that cannot be made
+// is no error: the choices then just do not persist.
 QSettings* openSettings()
 {
     const QDir folder(settingsFolder());

@@ -2,6 +2,7 @@
 
 #include "HostMenuHelpers.h"
 #include "common/HostIdentifiers.h"
+#include "common/IdentifierMatch.h"
 
 #include <QObject>
 
@@ -54,7 +55,7 @@ void placeAfterOnlineSupport(CFxUIPullDownMenu& help, const std::vector<CFxUIMen
     CFxUIList<CFxUIMenuEntry>& entries = help.GetEntries();
     for (int index = 0; index < entries.GetCount(); ++index) {
         CFxUIMenuEntry* anchor = entries.GetAt(index);
-        if (anchor->GetIdentifier().compare(kOnlineSupportItemId) != 0)
+        if (!IdentifierMatch::isOnlineSupportItem(anchor->GetIdentifier()))
             continue;
         for (CFxUIMenuEntry* entry : created) {
             entries.InsertAfter(anchor, entry);
@@ -71,7 +72,8 @@ void addSystemMenuBlock()
     HostMenuHelpers::insertRibbonSystemMenuItem(CFxString(), CFxString(), true);
 }
 
-// The entries are recognised by their text here: whatever carries the text goes.
+// The entries are recognised by their text here: whatever carries the text goes, in one pass
+// (docs/lifecycle.md, row "Help entries").
 void removeEntry(const HelpEntry& entry, OdEdCommand& command)
 {
     if (CFxUIPullDownMenu* help = HostMenuHelpers::findHelpMenu(kHelpMenuId))

@@ -8,10 +8,8 @@
 // The module's two Help-menu entries, the update check and the release notes: in the host's
 // Help menu and in the ribbon's system menu, with the commands they run. Put in place when
 // the host's main window has been created. Before it goes, `remove` takes out the Help-menu
-// entries and the commands, and leaves the system-menu block on purpose: its entries carry a
-// text and a command but no identifier, so nothing marks them as the module's in a menu that
-// is the host's, and guessing by text could take the host's own. Each new main window adds
-// one block more.
+// entries and the commands. Kept: docs/lifecycle.md, rows "System-menu block" and "Help menu
+// items".
 class HelpMenuBuilder
 {
 public:

@@ -19,7 +19,7 @@ CFxUIPullDownMenu* helpMenuOf(const CFxUIGroup& group)
     const CFxUIList<CFxUIPullDownMenu>& menus = group.GetPullDownMenus();
     for (int index = 0; index < menus.GetCount(); ++index) {
         CFxUIPullDownMenu* menu = menus.GetAt(index);
-        if (menu->GetIdentifier().compare(kHelpMenuId) == 0)
+        if (IdentifierMatch::isHelpMenu(menu->GetIdentifier()))
             return menu;
     }
     return nullptr;
@@ -50,8 +50,9 @@ CFxUIPullDownMenu* HostMenuHelpers::findHelpMenu(const CFxString& identifier)
         CFxUIGroup* group = groups->Current();
         if (group == reference)
             continue;
+        // The menu found is the Help menu, so any other identifier asked for finds nothing.
         CFxUIPullDownMenu* menu = helpMenuOf(*group);
-        if (menu && menu->GetIdentifier().compare(identifier) == 0)
+        if (menu && IdentifierMatch::isHelpMenu(identifier))
             return menu;
     }
     return nullptr;
@@ -62,12 +63,7 @@ bool HostMenuHelpers::containsItem(const CFxString& menuIdentifier, const CFxStr
     const CFxUIPullDownMenu* menu = findHelpMenu(menuIdentifier);
     if (!menu)
         return false;
-    const CFxUIList<CFxUIMenuEntry>& entries = menu->GetEntries();
-    for (int index = 0; index < entries.GetCount(); ++index) {
-        if (entries.GetAt(index)->GetIdentifier().equalNoCase(itemIdentifier))
-            return true;
-    }
-    return false;
+    return IdentifierMatch::firstInAnyCase(menu->GetEntries(), itemIdentifier) != nullptr;
 }
 
 CFxUIMenuEntry* HostMenuHelpers::addPullDownItem(const CFxString& menuText,
@@ -118,7 +114,7 @@ void HostMenuHelpers::insertRibbonSystemMenuItem(const CFxString& menuText, cons
     CFxUIRibbonSystemMenuItem* item = createSystemMenuItem(*ui, menuText, macro, separator);
     CFxUIList<CFxUIRibbonSystemMenuItem>& items = systemMenu->GetSubItems();
     for (int index = 0; index < items.GetCount(); ++index) {
-        if (items.GetAt(index)->GetIdentifier().compare(kSystemMenuAboutId) == 0) {
+        if (IdentifierMatch::isSystemMenuAbout(items.GetAt(index)->GetIdentifier())) {
             items.InsertAt(index, item);
             return;
         }

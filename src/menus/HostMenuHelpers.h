@@ -1,5 +1,8 @@
 #pragma once
 
+#include "common/IdentifierMatch.h"
+#include "common/OnePassRemoval.h"
+
 #include <CFxString.h>
 
 class CFxUIGroup;
@@ -37,18 +40,16 @@ public:
     static void insertRibbonSystemMenuItem(const CFxString& menuText, const CFxString& macro,
                                            bool separator);
 
-    // Removes the items of `container` whose text is exactly `text`, in one pass by index.
-    // The index moves on after a removal too, so the item that closes the gap is not looked
-    // at: of two neighbours with that text only the first goes.
+    // Removes the items of `container` whose text is exactly `text`, in one pass by index: of
+    // two neighbours with that text only the first goes (docs/lifecycle.md, row "One pass").
     template <class Container>
     static void removeItemsByText(Container& container, const CFxString& text)
     {
-        for (int index = 0; index < container.GetCount(); ++index) {
-            auto* item = container.GetAt(index);
-            if (!item)
-                return;
-            if (item->GetText().compare(text) == 0)
-                container.Remove(item);
-        }
+        removeInOnePass(
+            container,
+            [&text](const auto& item) {
+                return IdentifierMatch::isEntryText(item.GetText(), text);
+            },
+            [](auto* item) { return item; });
     }
 };

@@ -36,11 +36,12 @@ void CExtCommandsModule::createCrashReactor()
 void CExtCommandsModule::uninitApp()
 {
     odedEditor()->removeReactor(&m_editorReactor);
-    // Removed in the order in which they were added.
+    // Removed in the order in which they were added: docs/lifecycle.md, row "Start-up
+    // commands".
     odedRegCmds()->removeCmd(&m_homeCommand);
     odedRegCmds()->removeCmd(&m_communityCommand);
     odedRegCmds()->removeCmd(&m_viewcastCommand);
-    // Not detached first: it has normally detached itself at the first document activation.
-    // The module object goes right after this, so the pointer is left as it is.
+    // Not detached first, and the pointer left as it is: docs/lifecycle.md, row "Crash-report
+    // reactor".
     delete crashReactor;
 }

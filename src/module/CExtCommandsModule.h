@@ -13,7 +13,8 @@
 
 // The module object. Everything it lends to the host is a member, owned by value; only the
 // crash-report reactor lives on the heap. The members are constructed in the order declared
-// and destroyed in the reverse order.
+// and destroyed in the reverse order. The labs-page and tutorial commands are never lent:
+// docs/lifecycle.md, row "Unregistered commands".
 class CExtCommandsModule : public OdRxModule
 {
 public:

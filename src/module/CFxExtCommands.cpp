@@ -51,11 +51,8 @@ void CFxExtCommands::mainFrameCreated(QWidget*)
 }
 
 // Takes out only the Help entries and their commands, the publish entry and the online
-// connector. What else the window got stays on purpose: the Add-Ins tab and panel hold the
-// siblings' buttons, which the siblings put in and take out on their own schedule, not the
-// window's; the question view, the collaboration view and the task pane are the companions'
-// own, and the companions offer no call to take them away (they go with the host's window);
-// the ribbon system-menu block is left as HelpMenuBuilder says.
+// connector. Kept: docs/lifecycle.md, rows "Add-Ins tab and panel", "Question view",
+// "Collaboration connector", "Task pane" and "System-menu block".
 void CFxExtCommands::mainFrameDestroyed(QWidget*)
 {
     m_helpMenu.remove();
@@ -94,8 +91,8 @@ void CFxExtCommands::addCollaborationView()
 {
     if (!CompanionSettings::collaborationEnabled())
         return;
-    // The linker keeps the module loaded after this pointer goes; it is unloaded with the rest
-    // at shut-down.
+    // The linker keeps the module loaded after this pointer goes: docs/lifecycle.md, row
+    // "Collaboration connector".
     const OdRxModulePtr connector =
         odrxDynamicLinker()->loadModule(OdString(kCollaborationConnector), true);
     if (!connector.isNull())
@@ -122,8 +119,7 @@ void CFxExtCommands::unloadOnlineConnector()
 {
     if (!m_onlineConnector.isNull())
         XmlTodxf().removeXmlTodxf();
-    // Asked for whether or not the connector ever loaded. The member keeps its reference, so
-    // the linker defers the unload until the reference goes with this reactor (the connector's
-    // view is gone already); a new main window takes the same connector up again.
+    // Asked for whether or not the connector ever loaded; the member's reference makes the
+    // linker wait. Kept: docs/lifecycle.md, row "Online connector".
     odrxDynamicLinker()->unloadModule(OdString(kOnlineConnector));
 }

@@ -11,10 +11,10 @@
 class QUuid;
 
 // The module's editor reactor: does the module's work on the host's main window when the
-// window is created, and takes part of it out again before the window goes (what stays, and
-// why, is said at mainFrameDestroyed). The steps run in a fixed order, because later ones rely
-// on earlier ones (the texts of the Help entries need the translators, the companions need the
-// Add-Ins tab).
+// window is created, and takes part of it out again before the window goes; docs/lifecycle.md
+// has a row for each piece, with what stays and why. The steps run in a fixed order: the
+// translators come first, because the Add-Ins captions and the Help entries' texts are
+// translated as they are made.
 class CFxExtCommands : public CFxEditorReactor
 {
 public:

@@ -3,23 +3,14 @@
 
 #include <IQuestionView.h>
 
-namespace {
-template <class Function>
-Function resolved(const char* symbol)
-{
-    return DelayLoadLibrary::companion(IQuestionViewEntryPoints::library).resolve<Function>(symbol);
-}
-} // namespace
-
 bool IQuestionView::addiQuestionView()
 {
-    auto call = resolved<IQuestionViewAddFunction>(IQuestionViewEntryPoints::addiQuestionView);
-    return call && call();
+    return DelayLoadLibrary::call<IQuestionViewAddFunction>(
+        IQuestionViewEntryPoints::library, IQuestionViewEntryPoints::addiQuestionView);
 }
 
 void IQuestionView::showiQuestionView()
 {
-    if (auto call =
-            resolved<IQuestionViewShowFunction>(IQuestionViewEntryPoints::showiQuestionView))
-        call();
+    DelayLoadLibrary::call<IQuestionViewShowFunction>(IQuestionViewEntryPoints::library,
+                                                      IQuestionViewEntryPoints::showiQuestionView);
 }

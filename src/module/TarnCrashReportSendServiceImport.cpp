@@ -3,39 +3,26 @@
 
 #include <TarnCrashReportSendService.h>
 
-namespace {
-template <class Function>
-Function resolved(const char* symbol)
-{
-    return DelayLoadLibrary::companion(TarnCrashReportEntryPoints::library)
-        .resolve<Function>(symbol);
-}
-} // namespace
-
 bool TarnCrashReportSendService::getRegVersion(QString& version)
 {
-    auto call =
-        resolved<TarnCrashReportGetRegVersionFunction>(TarnCrashReportEntryPoints::getRegVersion);
-    return call && call(&version);
+    return DelayLoadLibrary::call<TarnCrashReportGetRegVersionFunction>(
+        TarnCrashReportEntryPoints::library, TarnCrashReportEntryPoints::getRegVersion, &version);
 }
 
 void TarnCrashReportSendService::setRegVersion(const QString& version)
 {
-    if (auto call = resolved<TarnCrashReportSetRegVersionFunction>(
-            TarnCrashReportEntryPoints::setRegVersion))
-        call(&version);
+    DelayLoadLibrary::call<TarnCrashReportSetRegVersionFunction>(
+        TarnCrashReportEntryPoints::library, TarnCrashReportEntryPoints::setRegVersion, &version);
 }
 
 void TarnCrashReportSendService::initialCheckOnInstall() const
 {
-    if (auto call = resolved<TarnCrashReportCheckFunction>(
-            TarnCrashReportEntryPoints::initialCheckOnInstall))
-        call();
+    DelayLoadLibrary::call<TarnCrashReportCheckFunction>(
+        TarnCrashReportEntryPoints::library, TarnCrashReportEntryPoints::initialCheckOnInstall);
 }
 
 void TarnCrashReportSendService::reminderCheck()
 {
-    if (auto call =
-            resolved<TarnCrashReportCheckFunction>(TarnCrashReportEntryPoints::reminderCheck))
-        call();
+    DelayLoadLibrary::call<TarnCrashReportCheckFunction>(TarnCrashReportEntryPoints::library,
+                                                         TarnCrashReportEntryPoints::reminderCheck);
 }

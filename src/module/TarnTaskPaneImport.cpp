@@ -3,29 +3,21 @@
 
 #include <TarnTaskPane.h>
 
-namespace {
-template <class Function>
-Function resolved(const char* symbol)
-{
-    return DelayLoadLibrary::companion(TarnTaskPaneEntryPoints::library).resolve<Function>(symbol);
-}
-} // namespace
-
 bool TarnTaskPane::addTaskPane(QUuid& installationId, const std::string& tag)
 {
-    auto call = resolved<TarnTaskPaneAddFunction>(TarnTaskPaneEntryPoints::addTaskPane);
-    return call && call(&installationId, &tag);
+    return DelayLoadLibrary::call<TarnTaskPaneAddFunction>(TarnTaskPaneEntryPoints::library,
+                                                           TarnTaskPaneEntryPoints::addTaskPane,
+                                                           &installationId, &tag);
 }
 
 void TarnTaskPane::showTaskPane()
 {
-    if (auto call = resolved<TarnTaskPaneShowFunction>(TarnTaskPaneEntryPoints::showTaskPane))
-        call();
+    DelayLoadLibrary::call<TarnTaskPaneShowFunction>(TarnTaskPaneEntryPoints::library,
+                                                     TarnTaskPaneEntryPoints::showTaskPane);
 }
 
 void TarnTaskPane::showViewcastMeassage()
 {
-    if (auto call =
-            resolved<TarnTaskPaneShowFunction>(TarnTaskPaneEntryPoints::showViewcastMeassage))
-        call();
+    DelayLoadLibrary::call<TarnTaskPaneShowFunction>(TarnTaskPaneEntryPoints::library,
+                                                     TarnTaskPaneEntryPoints::showViewcastMeassage);
 }

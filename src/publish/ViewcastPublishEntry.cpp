@@ -16,9 +16,8 @@ constexpr wchar_t kEntryId[] = L"RSMI_PUBVIEWCAST";
 
 CFxUICommand* createPublishCommand(CFxUI& ui)
 {
-    // The small icon's name carries its extension twice and names no resource, so the entry
-    // shows no small icon. The name stays: it is part of the command as the UI model holds it,
-    // which others read and compare, and the large icon serves the entry.
+    // The small icon's name carries its extension twice and names no resource. Kept:
+    // docs/lifecycle.md, row "Resource names".
     return ApplicationMenuCommand::create(
         ui, CFxString(L"ID_PUBVIEWCAST"), CFxString(L"_VIEWCAST"),
         QObject::tr("Opens the drawings in Viewcast"),
@@ -48,9 +47,8 @@ void ViewcastPublishEntry::add()
                    ApplicationMenuEntry::WithoutAnchor::PlaceNowhere);
 }
 
-// Separators all carry one identifier and no owner, so the entry's own is not looked for: the
-// first separator of the menu goes, whoever put it there (a menu that held one before the entry
-// came loses that one, and the entry's own stays). The entry is found by its identifier.
+// The first separator of the menu goes, whoever put it there, then the entry. Kept:
+// docs/lifecycle.md, row "Publish entry".
 void ViewcastPublishEntry::remove()
 {
     CFxUIRibbonSystemMenuItem* menu = applicationMenu(GetFxSystemServices()->GetUI());

@@ -78,7 +78,8 @@ QString ViewcastPublisher::scratchFolder()
 {
     const QString name = heapText("temp_tarn");
     QDir home(QDir::homePath());
-    // Only an empty folder goes; one that still holds files stays, with its files.
+    // Only an empty folder goes; one that still holds files stays, with its files
+    // (docs/lifecycle.md, row "Scratch folder").
     home.rmdir(name);
     home.mkdir(name);
     return QDir::homePath() + QLatin1Char('/') + name;
@@ -123,8 +124,9 @@ void ViewcastPublisher::openInViewer(const ViewerOpenArguments& arguments)
 ViewerOpenArguments ViewcastPublisher::openArguments(const QString& copyPath,
                                                      const QString& viewerName)
 {
-    // The viewer takes 8-bit text: Latin-1, so a character beyond it arrives as "?". The two
-    // texts stay empty and the two flags set.
+    // The viewer takes 8-bit text: Latin-1, so a character beyond it arrives as "?"
+    // (docs/lifecycle.md, row "Viewer arguments"). The two texts stay empty and the two flags
+    // set.
     ViewerOpenArguments arguments;
     arguments.path = QDir::toNativeSeparators(copyPath).toLatin1();
     arguments.viewerName = viewerName.toLatin1();

@@ -1,7 +1,7 @@
 #include "ApplicationMenuSearch.h"
 
-#include "FirstWithIdentifier.h"
 #include "common/HostIdentifiers.h"
+#include "common/IdentifierMatch.h"
 
 #include <CFxUIGroup.h>
 
@@ -9,7 +9,7 @@ CFxUIRibbonSystemMenuItem*
 ApplicationMenuSearch::matchOrLast(const CFxUIList<CFxUIRibbonSystemMenuItem>& entries,
                                    const CFxString& id)
 {
-    CFxUIRibbonSystemMenuItem* found = firstWithIdentifier(entries, id);
+    CFxUIRibbonSystemMenuItem* found = IdentifierMatch::firstInAnyCase(entries, id);
     return found ? found : entries.GetAt(entries.GetCount() - 1);
 }
 
@@ -21,5 +21,5 @@ CFxUIRibbonSystemMenuItem* ApplicationMenuSearch::top(const CFxUIGroup& mainGrou
 CFxUIRibbonSystemMenuItem* ApplicationMenuSearch::child(const CFxUIRibbonSystemMenuItem* parent,
                                                         const CFxString& id)
 {
-    return parent ? firstWithIdentifier(parent->GetSubItems(), id) : nullptr;
+    return parent ? IdentifierMatch::firstInAnyCase(parent->GetSubItems(), id) : nullptr;
 }

@@ -3,6 +3,8 @@
 #include "ApplicationMenuSearch.h"
 #include "HostMainGroup.h"
 #include "common/HostIdentifiers.h"
+#include "common/IdentifierMatch.h"
+#include "common/OnePassRemoval.h"
 #include "common/ProcessLifetime.h"
 
 #include <QObject>
@@ -35,34 +37,27 @@ void addEntry(CFxUI& ui, CFxUIRibbonSystemMenuItem& exportMenu)
                    ApplicationMenuEntry::WithoutAnchor::PlaceFirst);
 }
 
-// Takes out the entries "RSMI_EXPORTTABLE" only, on purpose. The separator stays: separators
-// all carry one identifier and no owner, so the one that loading put in cannot be told from
-// the host's own (loading again adds one more). The command stays with the UI model that made
-// it. One pass, moving on after a removal too: loading puts in one entry, and that is the one
-// taken out, while an entry of the same identifier that closes the gap is left alone.
+// Takes out the entries "RSMI_EXPORTTABLE" only, in one pass. Kept: docs/lifecycle.md, row
+// "Export-table entry".
 void removeEntries(CFxUIRibbonSystemMenuItem& exportMenu)
 {
-    CFxUIList<CFxUIRibbonSystemMenuItem>& entries = exportMenu.GetSubItems();
     const CFxString entryId(kEntryId);
-    for (int i = 0; i < entries.GetCount(); ++i) {
-        if (entries.GetAt(i)->GetIdentifier().equalNoCase(entryId))
-            entries.Remove(ApplicationMenuSearch::child(&exportMenu, entryId));
-    }
+    removeInOnePass(
+        exportMenu.GetSubItems(),
+        [&entryId](const CFxUIRibbonSystemMenuItem& entry) {
+            return IdentifierMatch::inAnyCase(entry.GetIdentifier(), entryId);
+        },
+        [&](CFxUIRibbonSystemMenuItem*) {
+            return ApplicationMenuSearch::child(&exportMenu, entryId);
+        });
 }
 
 // Calls `change` with every export menu under the application menu's top entry.
 template <class Change>
 void forEachExportMenu(CFxUIGroup& mainGroup, Change change)
 {
-    CFxUIRibbonSystemMenuItem* top = ApplicationMenuSearch::top(mainGroup);
-    if (!top)
-        return;
-    const CFxString exportMenuId(kExportMenuId);
-    const CFxUIList<CFxUIRibbonSystemMenuItem>& entries = top->GetSubItems();
-    for (int i = 0; i < entries.GetCount(); ++i) {
-        if (entries.GetAt(i)->GetIdentifier().equalNoCase(exportMenuId))
-            change(*entries.GetAt(i));
-    }
+    if (CFxUIRibbonSystemMenuItem* top = ApplicationMenuSearch::top(mainGroup))
+        IdentifierMatch::forEachInAnyCase(top->GetSubItems(), CFxString(kExportMenuId), change);
 }
 } // namespace
 

@@ -1,6 +1,7 @@
 #include "LoadedRibbonItems.h"
 
 #include "RibbonOrderTable.h"
+#include "common/IdentifierMatch.h"
 #include "common/ProcessLifetime.h"
 
 namespace {
@@ -10,7 +11,7 @@ QHash<QString, CFxUIRibbonButton*>* makeItems()
 {
     auto* items = new QHash<QString, CFxUIRibbonButton*>;
     for (const QString& id : RibbonOrderTable::identifiers())
-        items->insert(id.toCaseFolded(), nullptr);
+        items->insert(IdentifierMatch::anyCaseKey(id), nullptr);
     return items;
 }
 } // namespace
@@ -24,12 +25,12 @@ QHash<QString, CFxUIRibbonButton*>& LoadedRibbonItems::map()
 
 CFxUIRibbonButton* LoadedRibbonItems::button(const QString& id)
 {
-    return map().value(id.toCaseFolded());
+    return map().value(IdentifierMatch::anyCaseKey(id));
 }
 
 void LoadedRibbonItems::store(const QString& id, CFxUIRibbonButton* button)
 {
-    map()[id.toCaseFolded()] = button;
+    map()[IdentifierMatch::anyCaseKey(id)] = button;
 }
 
 CFxUIRibbonButton* LoadedRibbonItems::predecessorOf(const QString& id)

@@ -1,13 +1,13 @@
 #include "RibbonContainers.h"
 
-#include "FirstWithIdentifier.h"
 #include "common/HostIdentifiers.h"
+#include "common/IdentifierMatch.h"
 
 #include <CFxUI.h>
 
 CFxUIRibbonTab* RibbonContainers::findTab(const CFxUIGroup& mainGroup, const CFxString& tabId)
 {
-    return firstWithIdentifier(mainGroup.GetRibbonTabs(), tabId);
+    return IdentifierMatch::firstInAnyCase(mainGroup.GetRibbonTabs(), tabId);
 }
 
 RibbonContainers::RowPlace RibbonContainers::findRow(const CFxUIGroup& mainGroup,
@@ -20,9 +20,9 @@ RibbonContainers::RowPlace RibbonContainers::findRow(const CFxUIGroup& mainGroup
         return {};
     // The host's lists hold no null entries, so every entry can be looked at.
     for (CFxUIRibbonPanel* panel : tab->GetPanels()) {
-        if (!panel->GetIdentifier().equalNoCase(panelId))
+        if (!IdentifierMatch::inAnyCase(panel->GetIdentifier(), panelId))
             continue;
-        if (CFxUIRibbonRow* row = firstWithIdentifier(panel->GetRows(), rowId))
+        if (CFxUIRibbonRow* row = IdentifierMatch::firstInAnyCase(panel->GetRows(), rowId))
             return {tab, panel, row};
     }
     return {};
@@ -49,7 +49,7 @@ CFxUIRibbonPanel* RibbonContainers::findOrCreatePanel(CFxUI& ui, CFxUIGroup& mai
                                                       CFxUIRibbonTab& tab, const CFxString& panelId,
                                                       const CFxString& caption)
 {
-    if (CFxUIRibbonPanel* panel = firstWithIdentifier(tab.GetPanels(), panelId))
+    if (CFxUIRibbonPanel* panel = IdentifierMatch::firstInAnyCase(tab.GetPanels(), panelId))
         return panel;
     CFxUIRibbonPanel* panel = ui.CreateRibbonPanel(panelId);
     panel->SetCaption(caption);
@@ -63,7 +63,7 @@ CFxUIRibbonPanel* RibbonContainers::findOrCreatePanel(CFxUI& ui, CFxUIGroup& mai
 CFxUIRibbonRow* RibbonContainers::findOrCreateRow(CFxUI& ui, CFxUIRibbonPanel& panel,
                                                   const CFxString& rowId)
 {
-    if (CFxUIRibbonRow* row = firstWithIdentifier(panel.GetRows(), rowId))
+    if (CFxUIRibbonRow* row = IdentifierMatch::firstInAnyCase(panel.GetRows(), rowId))
         return row;
     CFxUIRibbonRow* row = ui.CreateRibbonRow(rowId);
     panel.GetRows().Append(row);

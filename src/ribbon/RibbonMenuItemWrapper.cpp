@@ -1,10 +1,10 @@
-#include "FirstWithIdentifier.h"
 #include "HostMainGroup.h"
 #include "LoadedRibbonItems.h"
 #include "RibbonButtons.h"
 #include "RibbonCommands.h"
 #include "RibbonContainers.h"
 #include "common/HostIdentifiers.h"
+#include "common/IdentifierMatch.h"
 #include "common/ProcessLifetime.h"
 
 #include <QDebug>
@@ -41,21 +41,20 @@ bool pruneEmptyPanel(CFxUIGroup& mainGroup, const RibbonContainers::RowPlace& pl
     return true;
 }
 
-// The data-management split button of the Add-Ins row, looked for by its exact identifier.
+// The data-management split button of the Add-Ins row, found by its exact identifier.
 // Every button looked at is written to the debug log on the way. The message names a fixed
 // source, line and function instead of this code's own: whoever reads the debug log (a message
 // pattern with %{file}, %{line} and %{function}, a sibling's support tools) finds these
-// messages by those three, so they must not change when this file does.
+// messages by those three. Kept: docs/lifecycle.md, row "Debug log source".
 CFxUIRibbonButton* dataManagementButton(const CFxUIRibbonRow& row)
 {
-    const CFxString wanted(kDataManagementButtonId);
     for (CFxUIRibbonButton* button : row.GetButtons()) {
         QMessageLogger("RibbonMenuItemWrapper", 21,
                        "void __cdecl SetRibbonItemVisibility(const class QString &,bool)")
                 .debug()
                 .noquote()
             << button->GetText().toQString();
-        if (button->GetIdentifier().compare(wanted) == 0)
+        if (IdentifierMatch::isDataManagementButton(button->GetIdentifier()))
             return button;
     }
     return nullptr;
@@ -78,6 +77,7 @@ RibbonMenuItemWrapper* RibbonMenuItemWrapper::GetRibbonMenuItemWrapperInstance()
     return g_instance;
 }
 
+// The order table alone places a button. Kept: docs/lifecycle.md, row "Position ignored".
 void RibbonMenuItemWrapper::LoadRibbonMenu(RibbonItem* item, int /*position: decides nothing*/)
 {
     CFxUI* ui = GetFxSystemServices()->GetUI();
@@ -85,7 +85,7 @@ void RibbonMenuItemWrapper::LoadRibbonMenu(RibbonItem* item, int /*position: dec
     if (!item || !mainGroup)
         return;
     CFxUIRibbonRow* row = findOrCreateRow(*ui, *mainGroup, *item);
-    if (!row || firstWithIdentifier(row->GetButtons(), CFxString(item->id)))
+    if (!row || IdentifierMatch::firstInAnyCase(row->GetButtons(), CFxString(item->id)))
         return;
     CFxUICommand* command = RibbonCommands::findOrCreate(*ui, *mainGroup, *item);
     CFxUIRibbonButton* anchor = LoadedRibbonItems::predecessorOf(item->id);
@@ -107,7 +107,8 @@ void RibbonMenuItemWrapper::UnloadRibbonMenu(const QString& itemId, const QStrin
         RibbonContainers::findRow(*mainGroup, tabId, panelId, rowId);
     if (!place.row)
         return;
-    place.row->GetButtons().Remove(firstWithIdentifier(place.row->GetButtons(), CFxString(itemId)));
+    place.row->GetButtons().Remove(
+        IdentifierMatch::firstInAnyCase(place.row->GetButtons(), CFxString(itemId)));
     if (CFxUICommand* command = ui->FindCommand(mainGroup->GetIdentifier(), itemId))
         ui->DeleteCommand(command);
     ui->Update();
@@ -138,9 +139,7 @@ void SetRibbonItemVisibility(const QString& itemId, bool visible)
     CFxUIRibbonButton* split = place.row ? dataManagementButton(*place.row) : nullptr;
     if (!split)
         return;
-    const CFxString wanted(itemId);
-    for (CFxUIRibbonButton* entry : split->GetSubButtons()) {
-        if (entry->GetIdentifier().equalNoCase(wanted))
-            setShown(*entry, visible);
-    }
+    IdentifierMatch::forEachInAnyCase(
+        split->GetSubButtons(), CFxString(itemId),
+        [visible](CFxUIRibbonButton& entry) { setShown(entry, visible); });
 }

@@ -1,6 +1,7 @@
 #include "RibbonOrderTable.h"
 
 #include "common/HeapText.h"
+#include "common/IdentifierMatch.h"
 #include "common/ProcessLifetime.h"
 
 namespace {
@@ -28,7 +29,7 @@ const QMap<int, QString>& RibbonOrderTable::table()
 int RibbonOrderTable::orderOf(const QString& id)
 {
     for (auto at = table().begin(); at != table().end(); ++at) {
-        if (at.value().compare(id, Qt::CaseInsensitive) == 0)
+        if (IdentifierMatch::inAnyCase(at.value(), id))
             return at.key();
     }
     return 0;

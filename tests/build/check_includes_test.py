@@ -1,11 +1,9 @@
 """The include checker (check-includes.py) on small trees: it passes a tree that keeps every
 rule and names the file and the include of each rule broken."""
-import importlib.util
 import os
-import subprocess
-import sys
-import tempfile
 import unittest
+
+from checker_support import run_on_tree
 
 CHECKER = os.path.join(os.path.dirname(os.path.abspath(__file__)), "check-includes.py")
 
@@ -30,16 +28,9 @@ CLEAN = {
 
 class IncludeChecker(unittest.TestCase):
     def run_checker(self, changes):
-        with tempfile.TemporaryDirectory() as top:
-            for name, text in {**CLEAN, **changes}.items():
-                path = os.path.join(top, name)
-                os.makedirs(os.path.dirname(path), exist_ok=True)
-                with open(path, "w", encoding="utf-8") as stream:
-                    stream.write(text)
-            folders = [os.path.join(top, name) for name in ("src", "sdk", "include", "samples")]
-            result = subprocess.run([sys.executable, CHECKER, *folders], capture_output=True,
-                                    text=True, check=False)
-        return result.returncode, result.stderr
+        return run_on_tree(CHECKER, {**CLEAN, **changes},
+                           lambda top: [os.path.join(top, name)
+                                        for name in ("src", "sdk", "include", "samples")])
 
     def test_a_tree_that_keeps_every_rule_passes_quietly(self):
         self.assertEqual(self.run_checker({}), (0, ""))

@@ -138,6 +138,7 @@ TEST_F(CompanionWidgetsTest, AWindowAlreadyOnScreenGetsTheDocksAtOnce)
     EXPECT_NE(dock(window, kPane)->widget(), nullptr);
 }
 
+// Kept: docs/lifecycle.md, rows "Question view", "Collaboration connector" and "Task pane".
 TEST_F(CompanionWidgetsTest, AConnectorGoesWithItsViewWhileTheWindowStandsOrWithTheWindow)
 {
     QMainWindow& window = *m_window;
@@ -157,6 +158,7 @@ TEST_F(CompanionWidgetsTest, AConnectorGoesWithItsViewWhileTheWindowStandsOrWith
     m_window.reset();
 }
 
+// Kept: docs/lifecycle.md, rows "Companion libraries" and "Online connector".
 TEST_F(CompanionWidgetsTest, TheModuleAndItsConnectorsUnloadCleanlyCycleAfterCycle)
 {
     GetFxHostServices()->MainFrameDestroyed(m_window.get());

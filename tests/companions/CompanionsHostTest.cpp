@@ -92,6 +92,8 @@ protected:
     QTemporaryDir m_root;
 };
 
+// Kept: docs/lifecycle.md, rows "Question view", "Collaboration connector", "Online connector" and
+// "Task pane".
 TEST_F(CompanionsHost, EveryCompanionInTheReactorsOrderOnCreateAndDestroy)
 {
     install(m_all);
@@ -285,6 +287,7 @@ TEST_F(CompanionsHost, StartsItselfAgainWithTheCompanionFolderFirstOnTheSearchPa
     EXPECT_EQ(starts(run("mainframe create")), 2);
 }
 
+// Kept: docs/lifecycle.md, rows "Online connector" and "Add-Ins tab and panel".
 TEST_F(CompanionsHost, WithoutAnyCompanionTheRestOfTheMainWindowWorkStillHappens)
 {
     const HostResult result =

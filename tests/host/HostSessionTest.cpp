@@ -86,6 +86,7 @@ TEST_F(HostSession, ShowsTheModulesWholeLifeAsEvents)
     EXPECT_TRUE(asked[0].endsWith(": a.dmp, b.dmp")) << qPrintable(asked[0]);
 }
 
+// Kept: docs/lifecycle.md, row "Help commands".
 TEST_F(HostSession, CommandsThatAnUnloadedModuleLeftBehindAreTakenOffTheStack)
 {
     // The Help-menu commands stay registered until the main window goes; unloading the module

@@ -132,6 +132,7 @@ TEST_F(HostWindowWithSiblingOnX, EntriesHiddenAndShownAgainFollowTheModel)
     EXPECT_EQ(entriesOf("ID_VAULTLINE_ITEM"), kVaultlineEntries);
 }
 
+// Kept: docs/lifecycle.md, row "Siblings' buttons".
 TEST_F(HostWindowWithSiblingOnX, ButtonsLoadedAgainAfterTheLastWasUnloadedAreShown)
 {
     load();

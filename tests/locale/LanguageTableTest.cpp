@@ -93,6 +93,7 @@ private:
     int m_saved = GetFxHostServices()->GetCurrentLanguageId();
 };
 
+// Kept: docs/lifecycle.md, rows "Language folders" and "Doubled slash".
 TEST_F(CurrentLanguage, SystemIsTheSystemsLanguageAndAnyOtherSettingIsItsOwnEntry)
 {
     const QLocale hongKong(QLocale::Chinese, QLocale::HongKong);

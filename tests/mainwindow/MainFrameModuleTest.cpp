@@ -113,9 +113,12 @@ TEST_F(MainFrameTest, CreatePlacesTheEntriesBehindOnlineSupportAndRegistersTheCo
               QStringList({"_RELEASENOTES", "_CHECKFORUPDATES"}));
 }
 
+// Kept: docs/lifecycle.md, rows "System-menu block", "Help menu items" and "Add-Ins tab and
+// panel".
 TEST_F(MainFrameTest, DestroyTakesOutOnlyTheHelpEntriesAndCommandsAndCreateAddsThemOnce)
 {
     const QStringList hostHelp = help(kQuillon);
+    const QStringList hostItems = model().groupItems(kQuillon);
     create();
     const QStringList created = help(kQuillon);
     create();
@@ -128,6 +131,8 @@ TEST_F(MainFrameTest, DestroyTakesOutOnlyTheHelpEntriesAndCommandsAndCreateAddsT
     EXPECT_FALSE(commandKnown(L"RELEASENOTES"));
     EXPECT_EQ(model().systemMenu(), before.systemMenu());
     EXPECT_EQ(model().groupItems(kQuillon), before.groupItems(kQuillon));
+    EXPECT_EQ(model().ribbonTabs(kQuillon), before.ribbonTabs(kQuillon));
+    EXPECT_TRUE(before.ribbonTabs(kQuillon).contains("ID_RibbonAddInsTab"));
 
     create();
     EXPECT_EQ(help(kQuillon), created);
@@ -138,6 +143,9 @@ TEST_F(MainFrameTest, DestroyTakesOutOnlyTheHelpEntriesAndCommandsAndCreateAddsT
         QStringList({"_CHECKFORUPDATES", "_RELEASENOTES", "_CHECKFORUPDATES", "_RELEASENOTES"}));
     EXPECT_EQ(m_events.events().count("command-added"), 4);
     EXPECT_EQ(model().systemMenu(), systemMenuWithBlocks(3)) << "a block for each creation";
+    EXPECT_EQ(model().groupItems(kQuillon),
+              hostItems + QStringList({kCheck, kNotes, kCheck, kNotes}))
+        << "a pair of items for each creation that added the entries";
 }
 
 TEST_F(MainFrameTest, WithoutOnlineSupportTheEntriesStayAtTheEndInCreationOrder)
@@ -156,6 +164,7 @@ TEST_F(MainFrameTest, WithoutOnlineSupportTheEntriesStayAtTheEndInCreationOrder)
 
 // The anchors "PMI_330" and "RSYS_ABOUT" are compared exactly: a look-alike in lower case is
 // no anchor, so the Help entries stay at the end and the system menu gets nothing.
+// Kept: docs/lifecycle.md, row "Look-up rules".
 struct MissingAnchorCase
 {
     const char* fixture;
@@ -187,6 +196,7 @@ INSTANTIATE_TEST_SUITE_P(
                       MissingAnchorCase{"lowercase-anchors",
                                         {"PMI_300", "pmi_330", kCheck, kNotes}}));
 
+// Kept: docs/lifecycle.md, row "Look-up rules".
 TEST_F(MainFrameTest, OnlyAMenuCalledExactlyIdMnHelpOutsideTheReferenceGroupIsTheHelpMenu)
 {
     useFixture("no-exact-help-menu");
@@ -199,21 +209,25 @@ TEST_F(MainFrameTest, OnlyAMenuCalledExactlyIdMnHelpOutsideTheReferenceGroupIsTh
     EXPECT_EQ(after.systemMenu(), QStringList("RSYS_HELP") + kBlock << "RSYS_ABOUT");
 }
 
+// Kept: docs/lifecycle.md, rows "One pass" and "Look-up rules".
 TEST_F(MainFrameTest, LookalikeItemsAreMatchedWithoutCaseAndRemovedByTextInOnePass)
 {
     useFixture("lookalike-help");
     create();
     // "id_CheckForUpdates" counts as the update-check entry: only the release notes are added.
     EXPECT_EQ(help(kMain), QStringList({"PMI_300", "id_CheckForUpdates", "PMI_901", "PMI_902",
-                                        "PMI_330", kNotes}));
+                                        "PMI_903", "PMI_330", kNotes}));
     destroy();
     // Of the adjacent items with the release notes' text, the one that moved into the place of
-    // its removed neighbour stays.
-    EXPECT_EQ(help(kMain), QStringList({"PMI_300", "id_CheckForUpdates", "PMI_902", "PMI_330"}));
+    // its removed neighbour stays; the text in capitals is another text.
+    EXPECT_EQ(help(kMain),
+              QStringList({"PMI_300", "id_CheckForUpdates", "PMI_902", "PMI_903", "PMI_330"}));
 }
+
 // The module hears only of the windows made while it is loaded: a destroy without a create takes
 // nothing out, a window that stood before the module came gets nothing, and what the module put
 // into a window stays in the model when the module is unloaded before the window goes.
+// Kept: docs/lifecycle.md, rows "Editor reactor" and "Help entries".
 TEST_F(MainFrameTest, OnlyWindowsMadeWhileLoadedGetTheEntriesAndKeepThemAfterTheUnload)
 {
     const UiModel host = model();
@@ -233,8 +247,6 @@ TEST_F(MainFrameTest, OnlyWindowsMadeWhileLoadedGetTheEntriesAndKeepThemAfterThe
     const UiModel created = model();
     ASSERT_NE(created.menuEntryIds(kQuillon), host.menuEntryIds(kQuillon));
     m_module.reset();
-    EXPECT_EQ(help(kQuillon), created.menuEntryIds(kQuillon));
-    EXPECT_EQ(model().groupItems(kQuillon), created.groupItems(kQuillon));
-    EXPECT_EQ(model().systemMenu(), created.systemMenu());
+    EXPECT_EQ(model(), created) << "the whole model, the Add-Ins tab and the publish entry too";
 }
 } // namespace

@@ -98,6 +98,7 @@ QString checkForUpdatesText(const HostResult& result)
 class LanguageTest : public ::testing::TestWithParam<Language>
 {};
 
+// Kept: docs/lifecycle.md, rows "Language folders", "Doubled slash" and "Default locale".
 TEST_P(LanguageTest, SetsTheLocaleInstallsTheTranslatorsAndOpensThePagesOfTheLanguage)
 {
     const Language& language = GetParam();
@@ -162,6 +163,7 @@ INSTANTIATE_TEST_SUITE_P(Desktops, WebPageCommandsTest,
 class SecondMainWindowTest : public ::testing::TestWithParam<const char*>
 {};
 
+// Kept: docs/lifecycle.md, row "Translators".
 TEST_P(SecondMainWindowTest, InstallsASecondSetOfTranslatorsAndKeepsTheFirst)
 {
     HostProcess host;
@@ -223,6 +225,7 @@ TEST_F(TranslationFolderTest, WithoutTheLanguageFolderTheBaseFolderIsUsed)
 
 // A catalogue missing from the language folder gives an empty translator, installed in its
 // place, even when the base folder holds that catalogue.
+// Kept: docs/lifecycle.md, row "Translators".
 TEST_F(TranslationFolderTest, ALanguageFolderWithSomeCataloguesGivesEmptyTranslatorsForTheRest)
 {
     const QString german = m_folder.filePath("messages/german/");
@@ -239,6 +242,7 @@ TEST_F(TranslationFolderTest, ALanguageFolderWithSomeCataloguesGivesEmptyTransla
     EXPECT_EQ(checkForUpdatesText(result), QString::fromUtf8(kGerman));
 }
 
+// Kept: docs/lifecycle.md, row "Default locale".
 TEST_F(TranslationFolderTest, WithoutAnyMessagesFolderOnlyTheDefaultLocaleChanges)
 {
     const HostResult result = runGerman();
@@ -248,6 +252,7 @@ TEST_F(TranslationFolderTest, WithoutAnyMessagesFolderOnlyTheDefaultLocaleChange
     EXPECT_EQ(checkForUpdatesText(result), QString::fromUtf8(kEnglish));
 }
 
+// Kept: docs/lifecycle.md, row "Help commands".
 TEST(HelpCommandsTest, CommandsThatASiblingRegisteredFirstAreTheOnesTheEntriesRun)
 {
     HostProcess host;

@@ -26,6 +26,7 @@ void PrintTo(const FolderCase& each, std::ostream* out)
 class ProductPageTest : public ::testing::TestWithParam<FolderCase>
 {};
 
+// Kept: docs/lifecycle.md, row "Doubled slash".
 TEST_P(ProductPageTest, EnglishInAnyLetterCaseIsTheRootAndAnyOtherFolderStaysAsWritten)
 {
     const LanguageEntry language(2, CFxString(), 31, true, QString::fromUtf8(GetParam().folder));

@@ -1,5 +1,7 @@
 #include "UiModel.h"
 
+#include <QJsonDocument>
+
 #include <CFxUIJsonWriter.h>
 
 namespace {
@@ -54,4 +56,17 @@ QStringList UiModel::systemMenu() const
                         : id);
     }
     return entries;
+}
+
+QStringList UiModel::ribbonTabs(const QString& groupId) const
+{
+    QStringList tabs;
+    for (const QJsonValue tab : withId(m_model["groups"], groupId)["tabs"].toArray())
+        tabs << tab["id"].toString();
+    return tabs;
+}
+
+void PrintTo(const UiModel& model, std::ostream* out)
+{
+    *out << QJsonDocument(model.m_model).toJson(QJsonDocument::Compact).toStdString();
 }

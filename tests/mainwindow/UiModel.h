@@ -4,6 +4,8 @@
 #include <QJsonObject>
 #include <QStringList>
 
+#include <ostream>
+
 class CFxHostUI;
 
 // What the tests ask of a user-interface model, in the form in which the host's ui event
@@ -23,6 +25,12 @@ public:
     // The ribbon's system menu, one text per entry: its identifier, or, for an entry without
     // one, "text -> macro".
     QStringList systemMenu() const;
+    // The identifiers of the group's ribbon tabs.
+    QStringList ribbonTabs(const QString& groupId) const;
+
+    bool operator==(const UiModel& other) const { return m_model == other.m_model; }
+    // How failures show a model: its JSON on one line.
+    friend void PrintTo(const UiModel& model, std::ostream* out);
 
 private:
     QJsonArray menuEntries(const QString& groupId, const QString& menuId) const;

@@ -33,6 +33,7 @@ protected:
     const UrlRecorder urls{GetParam().refusing};
 };
 
+// Kept: docs/lifecycle.md, row "Unregistered commands".
 TEST_P(UnregisteredCommandTest, PlotProntoOpensTheLabsProjectPageAndEndsNormally)
 {
     OdStaticRxObject<CFxPlotPronto> command;
@@ -42,6 +43,7 @@ TEST_P(UnregisteredCommandTest, PlotProntoOpensTheLabsProjectPageAndEndsNormally
               QStringList{"http://" EXTCOMMANDS_LABS_HOST "/Projects/PlotPronto/"});
 }
 
+// Kept: docs/lifecycle.md, row "Unregistered commands".
 TEST_P(UnregisteredCommandTest, TutorialDoesNothingAndEndsNormally)
 {
     OdStaticRxObject<ExtTutorialCommand> command;
@@ -51,6 +53,7 @@ TEST_P(UnregisteredCommandTest, TutorialDoesNothingAndEndsNormally)
 
 // Never registered, they still carry their names: a host that listed the module's commands
 // would find them under these.
+// Kept: docs/lifecycle.md, row "Unregistered commands".
 TEST(UnregisteredCommandNames, AreThoseOfTheLabsPageAndTheTutorial)
 {
     const OdStaticRxObject<CFxPlotPronto> labsPage;

@@ -103,6 +103,7 @@ protected:
     IsolatedHome m_home;
 };
 
+// Kept: docs/lifecycle.md, row "Message-box settings".
 TEST_F(DontShowAgainMessageBox, TickedAndAcceptedSilencesThatMessageAloneForGood)
 {
     {

@@ -51,6 +51,7 @@ protected:
     }
 };
 
+// Kept: docs/lifecycle.md, row "Look-up rules".
 TEST_F(HelpMenuLookupTest, OnlyTheExactHelpMenuIdentifierFindsAMenu)
 {
     useProfile(EC_SOURCE_DIR "/host/profiles/default.json");
@@ -71,6 +72,7 @@ TEST_F(HelpMenuLookupTest, OnlyTheExactHelpMenuIdentifierFindsAMenu)
     EXPECT_FALSE(HostMenuHelpers::containsItem(CFxString("ID_MnFile"), fileItem));
 }
 
+// Kept: docs/lifecycle.md, row "Look-up rules".
 TEST_F(HelpMenuLookupTest, AHelpMenuWrittenInAnotherLetterCaseIsNoneAndTheReferenceGroupsIsSkipped)
 {
     useProfile(EC_SOURCE_DIR "/tests/fixtures/profiles/no-exact-help-menu.json");

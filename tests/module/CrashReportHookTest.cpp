@@ -98,6 +98,7 @@ class CrashReportRecordedVersion : public CrashReportHook,
                                    public ::testing::WithParamInterface<RecordedVersionCase>
 {};
 
+// Kept: docs/lifecycle.md, row "Crash-report check".
 TEST_P(CrashReportRecordedVersion, ChoosesTheCheckThatOnlyTheFirstActivationMakes)
 {
     const RecordedVersionCase& run = GetParam();
@@ -138,6 +139,7 @@ TEST_F(CrashReportHook, CreatingOrClosingADocumentLeavesTheCheckToTheFirstActiva
                            "companion-call setRegVersion"}));
 }
 
+// Kept: docs/lifecycle.md, row "Crash-report reactor".
 TEST_F(CrashReportHook, ASecondStartCreatesNoSecondReactor)
 {
     start({2017, 0, 9, 3});

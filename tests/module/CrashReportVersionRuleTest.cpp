@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+// Kept: docs/lifecycle.md, row "Crash-report check".
 TEST(CrashReportVersionRule, ComparesIgnoringCaseAndReadsTheSecondComponentAsText)
 {
     // Equal but for letter case: the same version, so the reminder, even with a "0".

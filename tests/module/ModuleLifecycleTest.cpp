@@ -29,6 +29,7 @@ protected:
     std::optional<LoadedModule> loaded;
 };
 
+// Kept: docs/lifecycle.md, row "Unregistered commands".
 TEST_F(ModuleLifecycle, StartAttachesTheEditorReactorAndRegistersThreeCommandsInOrder)
 {
     loaded.emplace();
@@ -53,6 +54,7 @@ TEST_F(ModuleLifecycle, CommandsRunByLocalOrGlobalNameAndCompleteNormally)
     }
 }
 
+// Kept: docs/lifecycle.md, rows "Start-up commands" and "Crash-report reactor".
 TEST_F(ModuleLifecycle, StopTakesBackEverythingTheStartLent)
 {
     loaded.emplace();

@@ -42,6 +42,7 @@ QJsonObject entryOf(const QJsonObject& menu, const QString& id)
     return {};
 }
 
+// Kept: docs/lifecycle.md, rows "Publish entry" and "Resource names".
 TEST(PublishEntry, StandsAfterRsmi10WithItsSeparatorWhileTheMainWindowExists)
 {
     HostProcess host;
@@ -91,6 +92,7 @@ void PrintTo(const ApplicationMenuCase& each, std::ostream* out)
 class PublishEntryPlace : public ::testing::TestWithParam<ApplicationMenuCase>
 {};
 
+// Kept: docs/lifecycle.md, rows "Publish entry" and "Anchor stand-ins".
 TEST_P(PublishEntryPlace, InAnApplicationMenuOfTheProfile)
 {
     const ApplicationMenuCase& each = GetParam();

@@ -261,6 +261,7 @@ TEST_F(PublishToViewcast, AVersionNineViewerWithoutItsInterfaceEndsInTheTaskPane
         << "the copy is made before the viewer is asked";
 }
 
+// Kept: docs/lifecycle.md, rows "Scratch folder" and "Viewer arguments".
 TEST_F(PublishToViewcast, CopiesGoIntoTheScratchFolderLosslesslyOnceEachAndOverwritingNothing)
 {
     installViewer({10});
@@ -356,6 +357,7 @@ TEST_F(PublishToViewcast, TheActiveDocumentIsPublishedAndWithoutOneTheErrorBoxSh
 // An empty scratch folder that a run before left behind goes and is made anew, so that it has
 // what the user's new folders get, not the mode it was left with; one that still holds files
 // stays as it is (above).
+// Kept: docs/lifecycle.md, row "Scratch folder".
 TEST_F(PublishToViewcast, AnEmptyScratchFolderFromBeforeIsMadeAnewWithTheUsersDefaultMode)
 {
     installViewer({10});

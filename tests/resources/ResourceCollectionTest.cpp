@@ -61,6 +61,7 @@ QSet<QString> filesUnderRoot()
 }
 } // namespace
 
+// Kept: docs/lifecycle.md, rows "Resource collection" and "Resource names".
 TEST(ResourceCollection, HoldsExactlyItsTreeOfImagesFromModuleLoadToModuleUnload)
 {
     IsolatedHome home;
@@ -85,6 +86,7 @@ TEST(ResourceCollection, HoldsExactlyItsTreeOfImagesFromModuleLoadToModuleUnload
         EXPECT_FALSE(QFile::exists(path)) << qPrintable(path);
 }
 
+// Kept: docs/lifecycle.md, row "Resource names".
 TEST(TaskPaneStyleSheet, DeclaresUtf8AndHoldsExactlyTheTaskPaneRules)
 {
     IsolatedHome home;

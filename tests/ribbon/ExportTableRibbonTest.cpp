@@ -44,6 +44,7 @@ void fillExportMenu(RibbonHost& host, const QStringList& entries)
 }
 } // namespace
 
+// Kept: docs/lifecycle.md, row "Export-table entry".
 TEST(ExportTableEntry, GoesAfterRSMI13OnceAndUnloadingTakesOutTheEntryButNotItsSeparator)
 {
     RibbonHost host;
@@ -73,6 +74,7 @@ TEST(ExportTableEntry, GoesAfterRSMI13OnceAndUnloadingTakesOutTheEntryButNotItsS
                                           "RSMI_EXPORTTABLE", "ID_SEPARATOR", "RSMI_14"}));
 }
 
+// Kept: docs/lifecycle.md, rows "Look-up rules" and "Anchor stand-ins".
 TEST(ExportTableEntry, GoesIntoEveryRSMI10InAnyLetterCaseAfterItsLastEntryWithoutRSMI13)
 {
     RibbonHost host;
@@ -93,6 +95,7 @@ TEST(ExportTableEntry, GoesIntoEveryRSMI10InAnyLetterCaseAfterItsLastEntryWithou
     EXPECT_EQ(entries(host, {"rsm", "Rsmi_10"}), QStringList{"ID_SEPARATOR"});
 }
 
+// Kept: docs/lifecycle.md, row "Anchor stand-ins".
 TEST(ExportTableEntry, WithoutRSMTheLastApplicationMenuEntryStandsIn)
 {
     RibbonHost host;
@@ -107,6 +110,7 @@ TEST(ExportTableEntry, WithoutRSMTheLastApplicationMenuEntryStandsIn)
               (QStringList{"ID_SEPARATOR", "RSMI_EXPORTTABLE"}));
 }
 
+// Kept: docs/lifecycle.md, row "Export-table entry".
 TEST(ExportTableEntry, ItsCommandNeverJoinsTheMainGroupsCommandList)
 {
     RibbonHost host;
@@ -124,6 +128,7 @@ TEST(ExportTableEntry, ItsCommandNeverJoinsTheMainGroupsCommandList)
 
 // An entry that a profile already holds under the entry's identifier in another letter case is
 // taken for the export-table entry: loading adds none beside it, and unloading takes it out.
+// Kept: docs/lifecycle.md, row "Look-up rules".
 TEST(ExportTableEntry, AnEntryInAnotherLetterCaseCountsAsLoadedAndGoesOnUnload)
 {
     RibbonHost host;
@@ -155,6 +160,7 @@ void PrintTo(const UnloadCase& each, std::ostream* out)
 class ExportTableUnloading : public ::testing::TestWithParam<UnloadCase>
 {};
 
+// Kept: docs/lifecycle.md, row "One pass".
 TEST_P(ExportTableUnloading, WalksTheMenuOnceAndPassesOverTheEntryThatMovedUp)
 {
     RibbonHost host;

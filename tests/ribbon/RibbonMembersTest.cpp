@@ -30,6 +30,7 @@ protected:
     CFxHostUI& ui = useDefaultProfile();
 };
 
+// Kept: docs/lifecycle.md, row "Siblings' buttons".
 TEST_F(RibbonMembers, UnloadRibbonMenuTakesAnyRowsPanelWithItsLastButton)
 {
     RibbonMenuItemWrapper* wrapper = RibbonMenuItemWrapper::GetRibbonMenuItemWrapperInstance();

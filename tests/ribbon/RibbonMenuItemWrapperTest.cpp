@@ -25,6 +25,7 @@ struct Children
 };
 } // namespace
 
+// Kept: docs/lifecycle.md, row "Position ignored".
 TEST(RibbonLoading, PlacesTheOrderedButtonsAfterTheirNearestLoadedPredecessorOthersFirstAndEachOnce)
 {
     RibbonHost host;
@@ -139,6 +140,7 @@ TEST(RibbonLoading, WalksRecordsNestedThousandsDeepAndSkipsCyclesAndNullChildren
     EXPECT_EQ(host.mainGroup().GetCommands().GetCount(), commands + depth + 1);
 }
 
+// Kept: docs/lifecycle.md, row "Siblings' buttons".
 TEST(RibbonUnloading, RemovesButtonAndCommandThenPrunesThePanelAndTheTabOnce)
 {
     RibbonHost host;
@@ -156,6 +158,7 @@ TEST(RibbonUnloading, RemovesButtonAndCommandThenPrunesThePanelAndTheTabOnce)
 
     host.unload(kVaultline);
     EXPECT_FALSE(tab->GetPanels().Contains(panel)) << "the emptied panel leaves its tab";
+    EXPECT_TRUE(host.mainGroup().GetRibbonPanels().Contains(panel)) << "but not the main group";
     EXPECT_FALSE(host.mainGroup().GetRibbonTabs().Contains(tab)) << "and the tab the ribbon";
     EXPECT_TRUE(host.ui().FindWorkspace("Drafting and Annotation")->GetRibbonTabs().Contains(tab));
     EXPECT_EQ(updates(), 2);
@@ -191,6 +194,7 @@ TEST(RibbonVisibility, MarksHiddenEntriesOnceAndShowingRestoresTheText)
     EXPECT_EQ(entries(), (QStringList{"Open", "Save", "Open too"}));
 }
 
+// Kept: docs/lifecycle.md, row "Look-up rules".
 TEST(RibbonVisibility, SwitchesOnlyTheSplitButtonOfExactlyThatIdentifierInTheAddInsRow)
 {
     RibbonHost host;
@@ -216,6 +220,7 @@ TEST(RibbonVisibility, SwitchesOnlyTheSplitButtonOfExactlyThatIdentifierInTheAdd
 // Each button looked at on the way to the data-management split button is written to the debug
 // log, as its text, under a source, line and function that never change, so that whoever reads
 // the log finds the lines by those three.
+// Kept: docs/lifecycle.md, row "Debug log source".
 TEST(RibbonVisibility, WritesEachButtonLookedAtToTheDebugLogUnderAFixedSourceLineAndFunction)
 {
     RibbonHost host;
