@@ -150,7 +150,7 @@ TEST_F(OneModulePerProcess, ASiblingLoadedBeforeTheModuleBringsTheCopyThatBothUs
 {
     load(L"SampleSibling");
     load(L"ExtCommands");
-    expectOneModuleFrom(QStringLiteral(EC_SAMPLE_PREFIX "/lib/ExtCommands.tx"));
+    expectOneModuleFrom(QStringLiteral(EC_SAMPLE_PREFIX "/bin/ExtCommands.tx"));
 }
 
 TEST_F(OneModulePerProcess, ASiblingLoadedAfterTheModuleUsesTheCopyTheHostLoaded)
