@@ -1,5 +1,6 @@
 // The sample sibling module, built against the installed ExtCommands package alone, loaded
 // into quillon-host from its own build folder and driven from the host's command line.
+#include "HostModel.h"
 #include "HostProcess.h"
 #include "TestPrinters.h"
 
@@ -11,7 +12,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-const QString kAddInsTab = QStringLiteral("ID_RibbonAddInsTab");
 
 QJsonObject record(const QString& id, const QString& type = QStringLiteral("command"))
 {
@@ -42,55 +42,6 @@ HostResult runWithSample(HostProcess& host, const QString& script)
 {
     return host.run({"--module-path", EC_SAMPLE_BUILD, "--module-path", HostProcess::stageFolder(),
                      "-c", QStringLiteral("load SampleSibling\n") + script});
-}
-
-// Whether the host ran the whole script and ended well, with no complaint of a sanitizer.
-testing::AssertionResult ranCleanly(const HostResult& result)
-{
-    for (const char* alarm : {"AddressSanitizer", "LeakSanitizer", "runtime error:"}) {
-        if (result.standardError.contains(QLatin1String(alarm)))
-            return testing::AssertionFailure() << result.standardError.toStdString();
-    }
-    if (result.exitCode != 0 || result.events.count(QStringLiteral("error")) != 0)
-        return testing::AssertionFailure()
-               << "exit code " << result.exitCode << ": "
-               << result.events.values("error", "message").join(", ").toStdString();
-    return testing::AssertionSuccess();
-}
-
-QJsonObject firstWithId(const QJsonValue& list, const QString& id)
-{
-    for (const QJsonValue item : list.toArray()) {
-        if (item["id"].toString() == id)
-            return item.toObject();
-    }
-    return {};
-}
-
-QStringList ids(const QJsonValue& list, const QString& field = QStringLiteral("id"))
-{
-    QStringList result;
-    for (const QJsonValue item : list.toArray())
-        result << item[field].toString();
-    return result;
-}
-
-// The main group of each model that the script's "ui" statements wrote, in order.
-QVector<QJsonObject> models(const HostResult& result)
-{
-    QVector<QJsonObject> found;
-    for (const RecordedEvent& event : result.events.named("ui"))
-        found << firstWithId(event.fields["model"]["groups"], QStringLiteral("QUILLON"));
-    return found;
-}
-
-QJsonArray rowButtons(const QJsonObject& group, const QString& tab = kAddInsTab,
-                      const QString& panel = QStringLiteral("ID_RibbonAddInsPanel"),
-                      const QString& row = QStringLiteral("ID_RibbonAddInsRow"))
-{
-    return firstWithId(firstWithId(firstWithId(group["tabs"], tab)["panels"], panel)["rows"], row)
-        .value("buttons")
-        .toArray();
 }
 
 QStringList exportMenu(const QJsonObject& group)
