@@ -3,8 +3,10 @@
 # but that prefix to find ExtCommands in.
 #   cmake -DPROJECT_BUILD=... -DPREFIX=... -DSAMPLE_SOURCE=... -DSAMPLE_BUILD=...
 #         -DGENERATOR=... -DCOMPILER=... -DBUILD_TYPE=... [-DSANITIZE=ON] [-DLAUNCHER=ccache]
-#         [-DSTAGE_DIR=...] -P BuildSample.cmake
+#         [-DSTAGE_DIR=...] [-DPAGE=... -DEXTRACTOR=...] -P BuildSample.cmake
 # With STAGE_DIR, the built module is then copied there (beside the host, for people to try).
+# With PAGE, the project is first written into SAMPLE_SOURCE from the code blocks that the
+# documentation page marks as its files, by the script EXTRACTOR.
 function(run)
     execute_process(COMMAND ${ARGN} RESULT_VARIABLE result)
     if(NOT result EQUAL 0)
@@ -14,6 +16,10 @@ function(run)
 endfunction()
 
 file(REMOVE_RECURSE "${PREFIX}" "${SAMPLE_BUILD}")
+if(PAGE)
+    find_program(PYTHON3 python3 PATHS /usr/bin NO_DEFAULT_PATH REQUIRED)
+    run("${PYTHON3}" "${EXTRACTOR}" "${PAGE}" "${SAMPLE_SOURCE}")
+endif()
 run("${CMAKE_COMMAND}" --install "${PROJECT_BUILD}" --prefix "${PREFIX}")
 
 set(options

@@ -1,10 +1,11 @@
 #include "SampleLoadCommand.h"
 
 #include "RibbonRecordFile.h"
+#include "SampleRibbon.h"
 
-#include <ExtCommands/RibbonMenuItemWrapper.h>
-
-SampleLoadCommand::SampleLoadCommand() : SampleCommand(L"SAMPLELOAD") {}
+SampleLoadCommand::SampleLoadCommand(SampleRibbon& ribbon)
+    : SampleCommand(L"SAMPLELOAD"), m_ribbon(ribbon)
+{}
 
 int SampleLoadCommand::runCommand(OdEdCommandContext* context)
 {
@@ -22,7 +23,7 @@ int SampleLoadCommand::runCommand(OdEdCommandContext* context)
         }
         // The records stay ours: the call reads them and keeps nothing.
         for (RibbonItem* record : file.records())
-            LoadRibbonMenuWrapper(record, position);
+            m_ribbon.load(record, position);
         tell(context, QStringLiteral("%1 records loaded").arg(file.records().size()));
     }
     return RTNORM;

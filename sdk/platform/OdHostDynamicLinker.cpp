@@ -89,10 +89,22 @@ OdString OdHostDynamicLinker::findFile(const OdString& name) const
     return OdString();
 }
 
-OdRxModulePtr OdHostDynamicLinker::openModule(const OdString& name, OdString& error)
+OdModuleHandle OdHostDynamicLinker::openLibrary(const OdString& name, OdString& path,
+                                                OdString& error) const
 {
     const QString moduleName = baseName(name);
-    const OdString path = findFile(name);
+    // A module's library may be in the process already without the linker having loaded it: a
+    // module that calls another's functions links its library by file name, and the system maps
+    // that as a dependency, from wherever the linking module's search finds it. Opening the
+    // file on the search path by its full path would then map a second copy, with state of its
+    // own, since the system matches a full path only against the same file. A module is one per
+    // process, known by its name, so the library loaded under that name is the module.
+    const OdString fileName = toOdString(moduleName + toQString(moduleFileSuffix()));
+    if (OdModuleHandle loaded = OdSharedLibrary::openLoaded(fileName)) {
+        path = OdSharedLibrary::fileName(loaded);
+        return loaded;
+    }
+    path = findFile(name);
     if (path.isEmpty()) {
         QStringList folders;
         for (const OdString& folder : m_searchPath)
@@ -101,15 +113,23 @@ OdRxModulePtr OdHostDynamicLinker::openModule(const OdString& name, OdString& er
                                .arg(moduleName, toQString(moduleFileSuffix()),
                                     folders.isEmpty() ? QStringLiteral("no folder")
                                                       : folders.join(QStringLiteral(", "))));
-        return OdRxModulePtr();
+        return nullptr;
     }
     OdString loaderError;
     OdModuleHandle library = OdSharedLibrary::open(path, loaderError);
-    if (!library) {
+    if (!library)
         error = toOdString(QStringLiteral("module %1 cannot be loaded: %2")
                                .arg(moduleName, toQString(loaderError)));
+    return library;
+}
+
+OdRxModulePtr OdHostDynamicLinker::openModule(const OdString& name, OdString& error)
+{
+    const QString moduleName = baseName(name);
+    OdString path;
+    OdModuleHandle library = openLibrary(name, path, error);
+    if (!library)
         return OdRxModulePtr();
-    }
     auto getVersion = reinterpret_cast<OdGetAPIVersionFunction>(
         OdSharedLibrary::resolve(library, "odrxGetAPIVersion"));
     auto createObject = reinterpret_cast<OdCreateModuleObjectFunction>(

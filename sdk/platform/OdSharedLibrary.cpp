@@ -21,6 +21,16 @@ OdModuleHandle OdSharedLibrary::open(const OdString& path, OdString& error)
     return library;
 }
 
+// Without a folder, the system takes a loaded module of that name, whichever folder it came
+// from; the flags of 0 take a reference, which close() gives back.
+OdModuleHandle OdSharedLibrary::openLoaded(const OdString& fileName)
+{
+    HMODULE library = nullptr;
+    if (!::GetModuleHandleExW(0, fileName.c_str(), &library))
+        return nullptr;
+    return library;
+}
+
 void* OdSharedLibrary::resolve(OdModuleHandle library, const char* symbol)
 {
     return reinterpret_cast<void*>(::GetProcAddress(library, symbol));
@@ -66,6 +76,15 @@ OdModuleHandle OdSharedLibrary::open(const OdString& path, OdString& error)
     if (!library)
         error = toOdString(QString::fromLocal8Bit(::dlerror()));
     return library;
+}
+
+// A name without a folder matches the loaded objects' names and sonames, so a library that
+// came in as another library's dependency is found whichever folder its file lies in. Only if
+// none matches does the loader search its folders, and RTLD_NOLOAD keeps it from mapping what
+// it finds there.
+OdModuleHandle OdSharedLibrary::openLoaded(const OdString& fileName)
+{
+    return ::dlopen(toQString(fileName).toLocal8Bit().constData(), RTLD_NOW | RTLD_NOLOAD);
 }
 
 void* OdSharedLibrary::resolve(OdModuleHandle library, const char* symbol)

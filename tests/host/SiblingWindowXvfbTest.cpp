@@ -1,6 +1,7 @@
 // The window on a real X server while the sample sibling loads, hides, shows and unloads its
 // buttons: what the ribbon shows follows the model at the end of each statement, and after a
-// sibling's unload and load cycle the window shows the tab that holds the reloaded buttons.
+// sibling's unload and load cycle the window shows the tab that holds the reloaded buttons. The
+// sample puts its own button, "Sample", into the Add-Ins row when a main window is created.
 #include "HostWindow.h"
 #include "HostWindowOnX.h"
 #include "TestPrinters.h"
@@ -18,7 +19,8 @@
 
 namespace {
 const QStringList kProfileTabs{"Home", "Insert", "View"};
-const QStringList kLoaded{"Sync", "Vaultline"};
+const QStringList kRecords{"Sync", "Vaultline"};
+const QStringList kLoaded = kRecords + QStringList{"Sample"};
 const QStringList kVaultlineEntries{"Check In", "Check Out", "More"};
 
 class HostWindowWithSiblingOnX : public HostWindowOnX
@@ -109,7 +111,7 @@ private:
 
 TEST_F(HostWindowWithSiblingOnX, ButtonsLoadedWhileTheWindowStandsAreShown)
 {
-    EXPECT_EQ(buttonsShownOn("Add-Ins"), QStringList()) << "the module's panel, still empty";
+    EXPECT_EQ(buttonsShownOn("Add-Ins"), QStringList{"Sample"}) << "loaded with the window";
     load();
     EXPECT_EQ(buttonsShownOn("Add-Ins"), kLoaded) << "the tab in front, at the statement's end";
     EXPECT_EQ(entriesOf("ID_VAULTLINE_ITEM"), kVaultlineEntries);
@@ -117,7 +119,7 @@ TEST_F(HostWindowWithSiblingOnX, ButtonsLoadedWhileTheWindowStandsAreShown)
     // Changed while another tab is in front: shown when the tab comes to the front.
     tabs()->setCurrentIndex(0);
     run("SAMPLEUNLOAD ID_VL_SYNC");
-    EXPECT_EQ(buttonsShownOn("Add-Ins"), QStringList({"Vaultline"}));
+    EXPECT_EQ(buttonsShownOn("Add-Ins"), QStringList({"Vaultline", "Sample"}));
 }
 
 TEST_F(HostWindowWithSiblingOnX, EntriesHiddenAndShownAgainFollowTheModel)
@@ -139,18 +141,20 @@ TEST_F(HostWindowWithSiblingOnX, ButtonsLoadedAgainAfterTheLastWasUnloadedAreSho
     ASSERT_EQ(buttonsShownOn("Add-Ins"), kLoaded);
     run("SAMPLEUNLOAD ID_VL_SYNC");
     run("SAMPLEUNLOAD ID_VAULTLINE_ITEM");
+    run("SAMPLEUNLOAD ID_SAMPLE_ITEM");
     EXPECT_EQ(tabTexts(), kProfileTabs) << "the emptied tab left the ribbon";
 
     load();
     ASSERT_EQ(addInsTabsListed(), 2) << "the old tab stays in the workspace beside the new one";
     EXPECT_EQ(tabTexts(), kProfileTabs + QStringList({"Add-Ins"}));
-    EXPECT_EQ(buttonsShownOn("Add-Ins"), kLoaded);
+    EXPECT_EQ(buttonsShownOn("Add-Ins"), kRecords);
     EXPECT_EQ(entriesOf("ID_VAULTLINE_ITEM"), kVaultlineEntries);
 
-    // A new main window shows the same.
+    // A new main window shows the same, and the sample's own button, loaded with it (a button
+    // that is not of the fixed order goes first).
     run("mainframe destroy");
     run("mainframe create");
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window()));
     EXPECT_EQ(tabTexts(), kProfileTabs + QStringList({"Add-Ins"}));
-    EXPECT_EQ(buttonsShownOn("Add-Ins"), kLoaded);
+    EXPECT_EQ(buttonsShownOn("Add-Ins"), QStringList{"Sample"} + kRecords);
 }

@@ -1,6 +1,7 @@
 // The dynamic linker with the test modules: finding, loading and starting a module, refusing
 // what is not a module of this platform, and unloading it so that nothing of it stays.
 #include "EventRecorder.h"
+#include "MappedLibraries.h"
 #include "TestPrinters.h"
 #include "TestStrings.h"
 
@@ -21,6 +22,15 @@ namespace {
 QString fixture(const QString& file)
 {
     return QDir(QStringLiteral(EC_FIXTURE_DIR)).absoluteFilePath(file);
+}
+
+// The copies of ProbeModule's library in the process, by their canonical file names.
+QStringList mappedProbes()
+{
+    QStringList canonical;
+    for (const QString& path : MappedLibraries::named(QStringLiteral("ProbeModule.tx")))
+        canonical << QFileInfo(path).canonicalFilePath();
+    return canonical;
 }
 } // namespace
 
@@ -75,6 +85,41 @@ TEST_F(DynamicLinker, LoadsAModuleOnceByNameAndUnloadsItWithoutATraceWhenNothing
     EXPECT_EQ(odedHostRegCmds()->lookupCmd(OdString(L"PROBE")), nullptr);
     EXPECT_FALSE(linker()->unloadModule(OdString(L"ProbeModule")));
     EXPECT_EQ(recorder.events().all().last().name, "module-unload-skipped");
+}
+
+// ProbeUser links ProbeModule's library by its file name, found beside it; the search path
+// names another copy first. Whichever module comes first, the process holds one copy of the
+// library, and the linker's module is the one in it.
+TEST_F(DynamicLinker, AModuleLinkedByAnotherIsMappedOnceWhicheverIsLoadedFirst)
+{
+    QTemporaryDir elsewhere;
+    // A copy, not a link: the system would know a second name of the same file as the same.
+    ASSERT_TRUE(QFile::copy(fixture("ProbeModule.tx"), elsewhere.filePath("ProbeModule.tx")));
+    const QString besideUser = QFileInfo(fixture("ProbeModule.tx")).canonicalFilePath();
+    const QString first = QFileInfo(elsewhere.filePath("ProbeModule.tx")).canonicalFilePath();
+    linker()->setSearchPath({od(elsewhere.path()), od(QStringLiteral(EC_FIXTURE_DIR))});
+
+    ASSERT_FALSE(linker()->loadModule(OdString(L"ProbeUser")).isNull());
+    ASSERT_EQ(mappedProbes(), QStringList{besideUser}) << "mapped as the user's dependency";
+    OdRxModulePtr probe = linker()->loadModule(OdString(L"ProbeModule"));
+    ASSERT_FALSE(probe.isNull());
+    EXPECT_EQ(mappedProbes(), QStringList{besideUser});
+    EXPECT_EQ(QFileInfo(qt(probe->moduleName())).canonicalFilePath(), besideUser);
+    EXPECT_EQ(recorder.events().timeline({"probe step", "probe-user calls"}),
+              QStringList({"probe-user ProbeModule", "probe constructed", "probe initApp"}));
+    probe.release();
+    recorder.clear();
+    linker()->unloadAll();
+    EXPECT_TRUE(mappedProbes().isEmpty());
+    EXPECT_EQ(recorder.events().timeline({"probe step", "module-unloaded module"}),
+              QStringList({"probe uninitApp", "probe destroyed", "module-unloaded ProbeModule",
+                           "probe static-destroyed", "module-unloaded ProbeUser"}))
+        << "the library goes with the last module that holds it";
+
+    ASSERT_FALSE(linker()->loadModule(OdString(L"ProbeModule")).isNull());
+    ASSERT_FALSE(linker()->loadModule(OdString(L"ProbeUser")).isNull());
+    EXPECT_EQ(mappedProbes(), QStringList{first}) << "the user's dependency is the module loaded";
+    EXPECT_EQ(recorder.events().values("probe-user", "calls"), QStringList{"ProbeModule"});
 }
 
 TEST_F(DynamicLinker, RefusesWhatItCannotLoadSilentlyOrWithTheReason)

@@ -1,5 +1,6 @@
 // The sample sibling module, built against the installed ExtCommands package alone, loaded
 // into quillon-host from its own build folder and driven from the host's command line.
+#include "HostModel.h"
 #include "HostProcess.h"
 #include "TestPrinters.h"
 
@@ -11,7 +12,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-const QString kAddInsTab = QStringLiteral("ID_RibbonAddInsTab");
 
 QJsonObject record(const QString& id, const QString& type = QStringLiteral("command"))
 {
@@ -36,60 +36,12 @@ QByteArray json(const QJsonArray& records)
     return QJsonDocument(records).toJson(QJsonDocument::Compact);
 }
 
-// Runs the script after loading the sample, with the host's own modules and the sample's.
+// Runs the script after loading the sample, with the host's own modules and the sample's; the
+// sample's folder comes first, before the copy staged beside the host.
 HostResult runWithSample(HostProcess& host, const QString& script)
 {
-    return host.run({"--module-path", HostProcess::stageFolder(), "--module-path", EC_SAMPLE_BUILD,
+    return host.run({"--module-path", EC_SAMPLE_BUILD, "--module-path", HostProcess::stageFolder(),
                      "-c", QStringLiteral("load SampleSibling\n") + script});
-}
-
-// Whether the host ran the whole script and ended well, with no complaint of a sanitizer.
-testing::AssertionResult ranCleanly(const HostResult& result)
-{
-    for (const char* alarm : {"AddressSanitizer", "LeakSanitizer", "runtime error:"}) {
-        if (result.standardError.contains(QLatin1String(alarm)))
-            return testing::AssertionFailure() << result.standardError.toStdString();
-    }
-    if (result.exitCode != 0 || result.events.count(QStringLiteral("error")) != 0)
-        return testing::AssertionFailure()
-               << "exit code " << result.exitCode << ": "
-               << result.events.values("error", "message").join(", ").toStdString();
-    return testing::AssertionSuccess();
-}
-
-QJsonObject firstWithId(const QJsonValue& list, const QString& id)
-{
-    for (const QJsonValue item : list.toArray()) {
-        if (item["id"].toString() == id)
-            return item.toObject();
-    }
-    return {};
-}
-
-QStringList ids(const QJsonValue& list, const QString& field = QStringLiteral("id"))
-{
-    QStringList result;
-    for (const QJsonValue item : list.toArray())
-        result << item[field].toString();
-    return result;
-}
-
-// The main group of each model that the script's "ui" statements wrote, in order.
-QVector<QJsonObject> models(const HostResult& result)
-{
-    QVector<QJsonObject> found;
-    for (const RecordedEvent& event : result.events.named("ui"))
-        found << firstWithId(event.fields["model"]["groups"], QStringLiteral("QUILLON"));
-    return found;
-}
-
-QJsonArray rowButtons(const QJsonObject& group, const QString& tab = kAddInsTab,
-                      const QString& panel = QStringLiteral("ID_RibbonAddInsPanel"),
-                      const QString& row = QStringLiteral("ID_RibbonAddInsRow"))
-{
-    return firstWithId(firstWithId(firstWithId(group["tabs"], tab)["panels"], panel)["rows"], row)
-        .value("buttons")
-        .toArray();
 }
 
 QStringList exportMenu(const QJsonObject& group)
@@ -156,6 +108,64 @@ TEST(SampleSibling, BuiltFromTheInstalledPackageDrivesTheRibbonAndTheExportTable
     EXPECT_EQ(ids(after[1]["buttons"], "text"), (QStringList{"id_vl_open", "id_vl_save"}));
     EXPECT_EQ(exportMenu(states[1]),
               (QStringList{"RSMI_11", "RSMI_12", "RSMI_13", "ID_SEPARATOR", "RSMI_14"}));
+}
+
+// The sample as a sibling should be: its own button comes with the main window, and when it is
+// unloaded it takes off everything it loaded, its buttons' entries first (the commands of a
+// split button's entries stay unless the entries are unloaded before the button, after which
+// its row may be gone), and the export-table entry. What the module keeps by design stays.
+TEST(SampleSibling, LoadsItsButtonWithTheWindowAndTakesOffAllItLoadedWhenUnloaded)
+{
+    HostProcess host;
+    QJsonObject more = record("ID_VL_MORE", "split");
+    more.insert("children", QJsonArray{record("ID_VL_HISTORY")});
+    QJsonObject vaultline = record("ID_VAULTLINE_ITEM", "split");
+    vaultline.insert("children",
+                     QJsonArray{record("ID_VL_OPEN"), QJsonObject{{"type", "separator"}}, more});
+    // Alone in a row of its own, a split button takes its row, panel and tab with it.
+    QJsonObject alone = record("ID_SIBLING_ALONE", "split");
+    alone.insert("tabId", "ID_SiblingTab");
+    alone.insert("panelId", "ID_SiblingPanel");
+    alone.insert("rowId", "ID_SiblingRow");
+    alone.insert("children", QJsonArray{record("ID_ALONE_ENTRY")});
+    writeFile(host, "records.json", json({vaultline, record("ID_VL_SYNC"), alone}));
+    const HostResult result =
+        runWithSample(host, "SAMPLELIST; mainframe create; SAMPLELIST; SAMPLELOAD records.json\n"
+                            "SAMPLELOAD records.json; SAMPLEEXPORTTABLE load; SAMPLELIST; ui\n"
+                            "unload SampleSibling; ui; commands");
+    ASSERT_TRUE(ranCleanly(result));
+    EXPECT_EQ(result.events.values("command-output", "text"),
+              (QStringList{"SAMPLELIST: no buttons loaded", "SAMPLELIST: ID_SAMPLE_ITEM",
+                           "SAMPLELOAD: 3 records loaded", "SAMPLELOAD: 3 records loaded",
+                           "SAMPLELIST: ID_SAMPLE_ITEM, ID_VAULTLINE_ITEM, ID_VL_SYNC, "
+                           "ID_SIBLING_ALONE"}));
+
+    const QVector<QJsonObject> states = models(result);
+    ASSERT_EQ(states.size(), 2);
+    EXPECT_EQ(ids(rowButtons(states[0])),
+              (QStringList{"ID_VL_SYNC", "ID_VAULTLINE_ITEM", "ID_SAMPLE_ITEM"}));
+    const QStringList entries{"ID_VL_OPEN", "ID_VL_MORE", "ID_VL_HISTORY", "ID_ALONE_ENTRY"};
+    const QStringList loaded =
+        QStringList{"ID_SAMPLE_ITEM", "ID_VAULTLINE_ITEM", "ID_VL_SYNC", "ID_SIBLING_ALONE"} +
+        entries;
+    const QStringList before = ids(states[0]["commands"]);
+    for (const QString& id : loaded)
+        EXPECT_TRUE(before.contains(id)) << qPrintable(id);
+
+    const QJsonObject after = states[1];
+    EXPECT_TRUE(firstWithId(after["tabs"], kAddInsTab).isEmpty()) << "its last button went";
+    EXPECT_TRUE(firstWithId(after["tabs"], "ID_SiblingTab").isEmpty());
+    const QStringList left = ids(after["commands"]);
+    for (const QString& id : loaded)
+        EXPECT_FALSE(left.contains(id)) << qPrintable(id) << " stayed behind";
+    EXPECT_TRUE(left.contains("")) << "the separators' command, of no identifier, stays";
+    EXPECT_EQ(exportMenu(after),
+              (QStringList{"RSMI_11", "RSMI_12", "RSMI_13", "ID_SEPARATOR", "RSMI_14"}))
+        << "the entry goes, its separator stays";
+    const QStringList commands =
+        result.events.named("commands").last().fields["names"].toVariant().toStringList();
+    EXPECT_FALSE(commands.filter(QRegularExpression("^SAMPLE")).size() > 0)
+        << qPrintable(commands.join(' '));
 }
 
 // A button forgotten when unloaded in another letter case is no anchor; an ordered button of

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OdModuleHandle.h"
 #include "OdRxDynamicLinker.h"
 #include "TD_RootExport.h"
 
@@ -8,7 +9,8 @@
 #include <vector>
 
 // The host's side of the dynamic linker that modules see as OdRxDynamicLinker: it finds modules
-// as "NAME.tx" on the host's search path and drives them through their life (initApp after
+// as "NAME.tx" in the process already (loaded as another module's dependency) or on the host's
+// search path and drives them through their life (initApp after
 // loading; uninitApp, deleteModule and the library's unloading on unload). Unload requests for
 // modules that are still referenced are carried out by unloadUnreferenced() once the last
 // reference is gone.
@@ -39,6 +41,10 @@ public:
 private:
     struct Entry;
     OdRxModulePtr openModule(const OdString& name, OdString& error);
+    // The module's library: the one loaded under the module's file name, or else the file
+    // found on the search path, opened (its file name in `path`); null with the reason in
+    // `error`.
+    OdModuleHandle openLibrary(const OdString& name, OdString& path, OdString& error) const;
     void unload(std::size_t index);
     Entry* find(const OdString& name) const;
     OdString findFile(const OdString& name) const;
