@@ -30,7 +30,11 @@ CFxUIRibbonButton* LoadedRibbonItems::button(const QString& id)
 
 void LoadedRibbonItems::store(const QString& id, CFxUIRibbonButton* button)
 {
-    map()[IdentifierMatch::anyCaseKey(id)] = button;
+    // The table outlives the sibling that named the button, and a text whose case folding
+    // changes nothing comes back sharing the sibling's own (often constant) text: the key is
+    // copied into the module's own memory.
+    const QString folded = IdentifierMatch::anyCaseKey(id);
+    map()[QString(folded.constData(), folded.size())] = button;
 }
 
 CFxUIRibbonButton* LoadedRibbonItems::predecessorOf(const QString& id)

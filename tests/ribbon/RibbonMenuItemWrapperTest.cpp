@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/mman.h>
+#include <unistd.h>
+
 #include <vector>
 
 namespace {
@@ -138,6 +141,33 @@ TEST(RibbonLoading, WalksRecordsNestedThousandsDeepAndSkipsCyclesAndNullChildren
         button = button->GetSubButtons().GetAt(0);
     EXPECT_EQ(found, depth);
     EXPECT_EQ(host.mainGroup().GetCommands().GetCount(), commands + depth + 1);
+}
+
+// A sibling's records often hold its own constant texts, which go with its library when it is
+// unloaded: the module keeps none of them, also where folding the letter case leaves a text as
+// it is. The identifier here lies in a page that is taken away after the call, as an unloaded
+// library's texts are; loading it again from a text of the test's own then reads only what the
+// module copied.
+TEST(RibbonLoading, KeepsNoTextOfASiblingOnceTheCallReturns)
+{
+    RibbonHost host;
+    const QString id = QStringLiteral("id_sibling_lower_case");
+    const long pageSize = ::sysconf(_SC_PAGESIZE);
+    void* page =
+        ::mmap(nullptr, pageSize, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    ASSERT_NE(page, MAP_FAILED);
+    std::copy(id.constBegin(), id.constEnd(), static_cast<QChar*>(page));
+    {
+        RibbonItem item = record(id);
+        item.id = QString::fromRawData(static_cast<const QChar*>(page), id.size());
+        host.load(&item, 0);
+        host.unload(item.id);
+    }
+    ASSERT_EQ(::munmap(page, pageSize), 0);
+
+    RibbonItem again = record(id);
+    host.load(&again, 0);
+    EXPECT_EQ(host.addInsButtons(), QStringList{id});
 }
 
 // Kept: docs/lifecycle.md, row "Siblings' buttons".
