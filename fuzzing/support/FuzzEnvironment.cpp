@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <cstdlib>
@@ -9,12 +10,18 @@
 namespace {
 QTemporaryDir* g_home = nullptr;
 QApplication* g_application = nullptr;
-int g_folders = 0;
 
 void removeHome()
 {
     delete g_home;
     g_home = nullptr;
+}
+
+// Where the private home goes: in memory when the system offers a memory file system.
+QString temporaryFolder()
+{
+    const QFileInfo memory(QStringLiteral("/dev/shm"));
+    return memory.isDir() && memory.isWritable() ? memory.filePath() : QDir::tempPath();
 }
 
 void pointAt(const char* variable, const QString& folder)
@@ -29,7 +36,7 @@ void FuzzEnvironment::prepare(int* argc, char*** argv)
     if (g_application)
         return;
     // Kept to the end of the process: libFuzzer leaves through exit() at any time.
-    g_home = new QTemporaryDir(QDir::tempPath() + QStringLiteral("/ec-fuzz-XXXXXX"));
+    g_home = new QTemporaryDir(temporaryFolder() + QStringLiteral("/ec-fuzz-XXXXXX"));
     std::atexit(removeHome);
     const QString root = g_home->path();
     pointAt("HOME", root + QStringLiteral("/home"));
@@ -40,6 +47,7 @@ void FuzzEnvironment::prepare(int* argc, char*** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     // Qt's own warnings about what a hostile input makes it do would drown libFuzzer's output.
     qputenv("QT_LOGGING_RULES", "*=false");
+    QDir().mkpath(inputFolder());
     g_application = new QApplication(*argc, *argv);
 }
 
@@ -48,12 +56,7 @@ QString FuzzEnvironment::home()
     return g_home->path() + QStringLiteral("/home");
 }
 
-QString FuzzEnvironment::freshFolder()
+QString FuzzEnvironment::inputFolder()
 {
-    // Only the current input's folder is kept: a long run would otherwise fill the disk.
-    const QString inputs = g_home->path() + QStringLiteral("/inputs/");
-    QDir(inputs + QString::number(g_folders)).removeRecursively();
-    const QString folder = inputs + QString::number(++g_folders);
-    QDir().mkpath(folder);
-    return folder;
+    return g_home->path() + QStringLiteral("/inputs");
 }

@@ -1,19 +1,19 @@
 // The platform's DXF reader and the reference walk over what it reads. The input is up to four
-// drawings, separated by lines "====" and saved as a.dxf, b.dxf, c.dxf and d.dxf in a folder of
-// their own, so that references between them (relative, with "\" or "/", circular) are
-// followed for real. a.dxf is read; a drawing that is read is written back and read again
-// group for group; its reference graph is walked and must be a graph without cycles whose
-// drawings are each one node.
+// drawings, separated by lines "====" and saved as a.dxf, b.dxf, c.dxf and d.dxf side by side,
+// so that references between them (relative, with "\" or "/", circular) are followed for real.
+// a.dxf is read; a drawing that is read is written back and read again group for group; its
+// reference graph is walked and must be a graph without cycles whose drawings are each one node.
 #include "FuzzEnvironment.h"
 #include "FuzzFailure.h"
+#include "MemoryStreamBuf.h"
 
-#include <QDir>
 #include <QFile>
 
 #include <OdDbDatabase.h>
 #include <OdDbXrefGraph.h>
+#include <OdDxfReader.h>
 #include <OdError.h>
-#include <OdRxSystemServices.h>
+#include <OdRxObjectImpl.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -23,14 +23,20 @@
 namespace {
 constexpr int kMaxDrawings = 4;
 
-QString saveDrawings(const QByteArray& input)
+QString drawingPath(int index)
 {
-    const QString folder = FuzzEnvironment::freshFolder();
+    return FuzzEnvironment::inputFolder() + QStringLiteral("/%1.dxf").arg(QChar('a' + index));
+}
+
+// The drawings of the input, always under the same names; a name the input does not fill is
+// no file, as if the input's drawings were the only ones ever saved there.
+void saveDrawings(const QByteArray& input)
+{
     const QList<QByteArray> parts = input.split('\n');
     QByteArray drawing;
     int saved = 0;
     auto save = [&] {
-        QFile file(folder + QStringLiteral("/%1.dxf").arg(QChar('a' + saved++)));
+        QFile file(drawingPath(saved++));
         if (file.open(QIODevice::WriteOnly))
             file.write(drawing);
         drawing.clear();
@@ -45,24 +51,23 @@ QString saveDrawings(const QByteArray& input)
             drawing += '\n';
     }
     save();
-    return folder;
+    while (saved < kMaxDrawings)
+        QFile::remove(drawingPath(saved++));
 }
 
-void checkWrittenBack(const OdDbDatabase& database, const QString& folder)
+// Written into memory and read from there, as the reader reads a file's bytes.
+void checkWrittenBack(const OdDbDatabase& database)
 {
-    const QString copy = folder + QStringLiteral("/written.dxf");
-    database.writeFile(
-        odSystemServices()
-            ->createFile(toOdString(copy), Oda::kFileWrite, Oda::kShareDenyNo, Oda::kCreateAlways)
-            .get(),
-        OdDb::kDxf, static_cast<OdDb::DwgVersion>(27));
-    OdDbDatabasePtr again;
+    const OdSmartPtr<MemoryStreamBuf> copy =
+        OdRxObjectImpl<MemoryStreamBuf>::createObject(QStringLiteral("written.dxf"));
+    database.writeFile(copy.get(), OdDb::kDxf, static_cast<OdDb::DwgVersion>(27));
+    std::vector<OdDxfGroup> again;
     try {
-        again = OdDbDatabase::readFile(toOdString(copy));
+        again = OdDxfReader::read(copy->bytes(), toQString(copy->fileName()));
     } catch (const OdError& error) {
         FuzzFailure::report(QStringLiteral("a written drawing cannot be read: ") + error.what());
     }
-    if (again->groups() != database.groups())
+    if (again != database.groups())
         FuzzFailure::report(QStringLiteral("a drawing written back lost or changed groups"));
 }
 
@@ -121,15 +126,15 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    const QString folder =
-        saveDrawings(QByteArray(reinterpret_cast<const char*>(data), static_cast<int>(size)));
+    saveDrawings(
+        QByteArray::fromRawData(reinterpret_cast<const char*>(data), static_cast<int>(size)));
     OdDbDatabasePtr database;
     try {
-        database = OdDbDatabase::readFile(toOdString(folder + QStringLiteral("/a.dxf")));
+        database = OdDbDatabase::readFile(toOdString(drawingPath(0)));
     } catch (const OdError&) {
         return 0;
     }
-    checkWrittenBack(*database, folder);
+    checkWrittenBack(*database);
     OdDbXrefGraph graph;
     OdDbXrefGraph::getFrom(database.get(), graph);
     checkGraph(graph, database.get());
