@@ -17,6 +17,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <set>
 #include <vector>
 
@@ -28,29 +29,32 @@ QString drawingPath(int index)
     return FuzzEnvironment::inputFolder() + QStringLiteral("/%1.dxf").arg(QChar('a' + index));
 }
 
+void saveDrawing(int index, const QByteArray& input, int from, int to)
+{
+    QFile file(drawingPath(index));
+    if (file.open(QIODevice::WriteOnly) && to > from)
+        file.write(input.constData() + from, to - from);
+}
+
 // The drawings of the input, always under the same names; a name the input does not fill is
-// no file, as if the input's drawings were the only ones ever saved there.
+// no file, as if the input's drawings were the only ones ever saved there. A line "====" ends
+// a drawing (its line break goes with it), while there are names left for the next.
 void saveDrawings(const QByteArray& input)
 {
-    const QList<QByteArray> parts = input.split('\n');
-    QByteArray drawing;
     int saved = 0;
-    auto save = [&] {
-        QFile file(drawingPath(saved++));
-        if (file.open(QIODevice::WriteOnly))
-            file.write(drawing);
-        drawing.clear();
-    };
-    for (int i = 0; i < parts.size(); ++i) {
-        if (parts[i] == "====" && saved < kMaxDrawings - 1) {
-            save();
-            continue;
+    int drawingStart = 0;
+    for (int lineStart = 0; lineStart <= input.size();) {
+        int lineEnd = input.indexOf('\n', lineStart);
+        if (lineEnd < 0)
+            lineEnd = input.size();
+        if (saved < kMaxDrawings - 1 && lineEnd - lineStart == 4 &&
+            std::memcmp(input.constData() + lineStart, "====", 4) == 0) {
+            saveDrawing(saved++, input, drawingStart, lineStart);
+            drawingStart = lineEnd + 1;
         }
-        drawing += parts[i];
-        if (i + 1 < parts.size())
-            drawing += '\n';
+        lineStart = lineEnd + 1;
     }
-    save();
+    saveDrawing(saved++, input, drawingStart, input.size());
     while (saved < kMaxDrawings)
         QFile::remove(drawingPath(saved++));
 }
