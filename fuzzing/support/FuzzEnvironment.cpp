@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <cstdlib>
@@ -17,13 +16,6 @@ void removeHome()
     g_home = nullptr;
 }
 
-// Where the private home goes: in memory when the system offers a memory file system.
-QString temporaryFolder()
-{
-    const QFileInfo memory(QStringLiteral("/dev/shm"));
-    return memory.isDir() && memory.isWritable() ? memory.filePath() : QDir::tempPath();
-}
-
 void pointAt(const char* variable, const QString& folder)
 {
     QDir().mkpath(folder);
@@ -36,7 +28,7 @@ void FuzzEnvironment::prepare(int* argc, char*** argv)
     if (g_application)
         return;
     // Kept to the end of the process: libFuzzer leaves through exit() at any time.
-    g_home = new QTemporaryDir(temporaryFolder() + QStringLiteral("/ec-fuzz-XXXXXX"));
+    g_home = new QTemporaryDir(QDir::tempPath() + QStringLiteral("/ec-fuzz-XXXXXX"));
     std::atexit(removeHome);
     const QString root = g_home->path();
     pointAt("HOME", root + QStringLiteral("/home"));

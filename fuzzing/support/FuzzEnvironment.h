@@ -6,7 +6,7 @@
 // configuration and data folders (nothing the program does reaches the real home), the
 // offscreen platform, and the application object that the kernel's widgets and translators need.
 //
-// The private home lies in memory where the system has a memory file system (/dev/shm): a
+// The private home lies in the temporary folder (TMPDIR), which ./fuzz puts in memory: a
 // program that writes its inputs to files then writes no disk.
 class FuzzEnvironment
 {
