@@ -9,7 +9,6 @@
 namespace {
 QTemporaryDir* g_home = nullptr;
 QApplication* g_application = nullptr;
-int g_folders = 0;
 
 void removeHome()
 {
@@ -40,6 +39,7 @@ void FuzzEnvironment::prepare(int* argc, char*** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     // Qt's own warnings about what a hostile input makes it do would drown libFuzzer's output.
     qputenv("QT_LOGGING_RULES", "*=false");
+    QDir().mkpath(inputFolder());
     g_application = new QApplication(*argc, *argv);
 }
 
@@ -48,12 +48,7 @@ QString FuzzEnvironment::home()
     return g_home->path() + QStringLiteral("/home");
 }
 
-QString FuzzEnvironment::freshFolder()
+QString FuzzEnvironment::inputFolder()
 {
-    // Only the current input's folder is kept: a long run would otherwise fill the disk.
-    const QString inputs = g_home->path() + QStringLiteral("/inputs/");
-    QDir(inputs + QString::number(g_folders)).removeRecursively();
-    const QString folder = inputs + QString::number(++g_folders);
-    QDir().mkpath(folder);
-    return folder;
+    return g_home->path() + QStringLiteral("/inputs");
 }

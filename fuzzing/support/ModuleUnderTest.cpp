@@ -1,6 +1,11 @@
 #include "ModuleUnderTest.h"
 
+#include "FuzzFailure.h"
+
 #include <QCoreApplication>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTranslator>
 #include <QWidget>
 
@@ -16,10 +21,10 @@ namespace {
 const wchar_t kModule[] = L"ExtCommands";
 } // namespace
 
-ModuleUnderTest::ModuleUnderTest() : m_mainFrame(nullptr)
+ModuleUnderTest::ModuleUnderTest() : m_mainFrameShown(false)
 {
     auto ui = std::make_unique<CFxHostUI>();
-    CFxUIJsonReader::readFile(QStringLiteral(EC_SOURCE_DIR "/host/profiles/default.json"), *ui);
+    CFxUIJsonReader::read(defaultProfile(), *ui);
     GetFxHostServices()->SetUI(std::move(ui));
     loadModule();
     resolveEntries();
@@ -27,7 +32,7 @@ ModuleUnderTest::ModuleUnderTest() : m_mainFrame(nullptr)
 
 ModuleUnderTest::~ModuleUnderTest()
 {
-    if (m_mainFrame)
+    if (m_mainFrameShown)
         mainFrameDestroyed();
     emptyLoadedItems();
     dropTranslators();
@@ -43,6 +48,27 @@ void ModuleUnderTest::loadModule()
     odrxHostDynamicLinker()->setSearchPath({toOdString(QStringLiteral(EC_STAGE_DIR))});
     odrxHostDynamicLinker()->loadModule(OdString(kModule), false);
     loaded = true;
+}
+
+const QJsonObject& ModuleUnderTest::defaultProfile()
+{
+    // Read from its file once; every input's UI is built afresh from what was read.
+    static const QJsonObject profile = [] {
+        const QString path = QStringLiteral(EC_SOURCE_DIR "/host/profiles/default.json");
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly))
+            FuzzFailure::report(path + QStringLiteral(": ") + file.errorString());
+        return QJsonDocument::fromJson(file.readAll()).object();
+    }();
+    return profile;
+}
+
+QWidget* ModuleUnderTest::mainFrame()
+{
+    // One window for the process: the module takes the window it is told of as it is and keeps
+    // nothing of it, so each creation may hand it the same one.
+    static QWidget* const window = new QWidget;
+    return window;
 }
 
 void ModuleUnderTest::emptyLoadedItems()
@@ -72,16 +98,14 @@ void ModuleUnderTest::resolveEntries()
 void ModuleUnderTest::mainFrameCreated()
 {
     // The host tells its reactors of a second creation again, with the same window.
-    if (!m_mainFrame)
-        m_mainFrame = new QWidget;
-    GetFxHostServices()->MainFrameCreated(m_mainFrame);
+    m_mainFrameShown = true;
+    GetFxHostServices()->MainFrameCreated(mainFrame());
 }
 
 void ModuleUnderTest::mainFrameDestroyed()
 {
-    GetFxHostServices()->MainFrameDestroyed(m_mainFrame);
-    delete m_mainFrame;
-    m_mainFrame = nullptr;
+    GetFxHostServices()->MainFrameDestroyed(mainFrame());
+    m_mainFrameShown = false;
 }
 
 void ModuleUnderTest::dropTranslators()

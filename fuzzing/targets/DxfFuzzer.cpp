@@ -1,68 +1,77 @@
 // The platform's DXF reader and the reference walk over what it reads. The input is up to four
-// drawings, separated by lines "====" and saved as a.dxf, b.dxf, c.dxf and d.dxf in a folder of
-// their own, so that references between them (relative, with "\" or "/", circular) are
-// followed for real. a.dxf is read; a drawing that is read is written back and read again
-// group for group; its reference graph is walked and must be a graph without cycles whose
-// drawings are each one node.
+// drawings, separated by lines "====" and saved as a.dxf, b.dxf, c.dxf and d.dxf side by side,
+// so that references between them (relative, with "\" or "/", circular) are followed for real.
+// a.dxf is read; a drawing that is read is written back and read again group for group; its
+// reference graph is walked and must be a graph without cycles whose drawings are each one node.
 #include "FuzzEnvironment.h"
 #include "FuzzFailure.h"
+#include "MemoryStreamBuf.h"
 
-#include <QDir>
 #include <QFile>
 
 #include <OdDbDxfDatabase.h>
 #include <OdDbXrefGraph.h>
+#include <OdDxfReader.h>
 #include <OdError.h>
-#include <OdRxSystemServices.h>
+#include <OdRxObjectImpl.h>
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <set>
 #include <vector>
 
 namespace {
 constexpr int kMaxDrawings = 4;
 
-QString saveDrawings(const QByteArray& input)
+QString drawingPath(int index)
 {
-    const QString folder = FuzzEnvironment::freshFolder();
-    const QList<QByteArray> parts = input.split('\n');
-    QByteArray drawing;
-    int saved = 0;
-    auto save = [&] {
-        QFile file(folder + QStringLiteral("/%1.dxf").arg(QChar('a' + saved++)));
-        if (file.open(QIODevice::WriteOnly))
-            file.write(drawing);
-        drawing.clear();
-    };
-    for (int i = 0; i < parts.size(); ++i) {
-        if (parts[i] == "====" && saved < kMaxDrawings - 1) {
-            save();
-            continue;
-        }
-        drawing += parts[i];
-        if (i + 1 < parts.size())
-            drawing += '\n';
-    }
-    save();
-    return folder;
+    return FuzzEnvironment::inputFolder() + QStringLiteral("/%1.dxf").arg(QChar('a' + index));
 }
 
-void checkWrittenBack(const OdDbDxfDatabase& database, const QString& folder)
+void saveDrawing(int index, const QByteArray& input, int from, int to)
 {
-    const QString copy = folder + QStringLiteral("/written.dxf");
-    database.writeFile(
-        odSystemServices()
-            ->createFile(toOdString(copy), Oda::kFileWrite, Oda::kShareDenyNo, Oda::kCreateAlways)
-            .get(),
-        OdDb::kDxf, static_cast<OdDb::DwgVersion>(27));
-    OdDbDxfDatabasePtr again;
+    QFile file(drawingPath(index));
+    if (file.open(QIODevice::WriteOnly) && to > from)
+        file.write(input.constData() + from, to - from);
+}
+
+// The drawings of the input, always under the same names; a name the input does not fill is
+// no file, as if the input's drawings were the only ones ever saved there. A line "====" ends
+// a drawing (its line break goes with it), while there are names left for the next.
+void saveDrawings(const QByteArray& input)
+{
+    int saved = 0;
+    int drawingStart = 0;
+    for (int lineStart = 0; lineStart <= input.size();) {
+        int lineEnd = input.indexOf('\n', lineStart);
+        if (lineEnd < 0)
+            lineEnd = input.size();
+        if (saved < kMaxDrawings - 1 && lineEnd - lineStart == 4 &&
+            std::memcmp(input.constData() + lineStart, "====", 4) == 0) {
+            saveDrawing(saved++, input, drawingStart, lineStart);
+            drawingStart = lineEnd + 1;
+        }
+        lineStart = lineEnd + 1;
+    }
+    saveDrawing(saved++, input, drawingStart, input.size());
+    while (saved < kMaxDrawings)
+        QFile::remove(drawingPath(saved++));
+}
+
+// Written into memory and read from there, as the reader reads a file's bytes.
+void checkWrittenBack(const OdDbDxfDatabase& database)
+{
+    const OdSmartPtr<MemoryStreamBuf> copy =
+        OdRxObjectImpl<MemoryStreamBuf>::createObject(QStringLiteral("written.dxf"));
+    database.writeFile(copy.get(), OdDb::kDxf, static_cast<OdDb::DwgVersion>(27));
+    std::vector<OdDxfGroup> again;
     try {
-        again = OdDbDxfDatabase::readFile(toOdString(copy));
+        again = OdDxfReader::read(copy->bytes(), toQString(copy->fileName()));
     } catch (const OdError& error) {
         FuzzFailure::report(QStringLiteral("a written drawing cannot be read: ") + error.what());
     }
-    if (again->groups() != database.groups())
+    if (again != database.groups())
         FuzzFailure::report(QStringLiteral("a drawing written back lost or changed groups"));
 }
 
@@ -121,15 +130,15 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    const QString folder =
-        saveDrawings(QByteArray(reinterpret_cast<const char*>(data), static_cast<int>(size)));
+    saveDrawings(
+        QByteArray::fromRawData(reinterpret_cast<const char*>(data), static_cast<int>(size)));
     OdDbDxfDatabasePtr database;
     try {
-        database = OdDbDxfDatabase::readFile(toOdString(folder + QStringLiteral("/a.dxf")));
+        database = OdDbDxfDatabase::readFile(toOdString(drawingPath(0)));
     } catch (const OdError&) {
         return 0;
     }
-    checkWrittenBack(*database, folder);
+    checkWrittenBack(*database);
     OdDbXrefGraph graph;
     OdDbXrefGraph::getFrom(database.get(), graph);
     checkGraph(graph, database.get());

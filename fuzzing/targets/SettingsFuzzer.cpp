@@ -7,6 +7,7 @@
 #include "module/CompanionSettings.h"
 #include "publish/ViewerVersion.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QSettings>
@@ -18,33 +19,47 @@
 #include <cstdint>
 
 namespace {
+QString registryFile()
+{
+    return FuzzEnvironment::inputFolder() + QStringLiteral("/registry.ini");
+}
+
+QString systemFolder()
+{
+    return FuzzEnvironment::inputFolder() + QStringLiteral("/system");
+}
+
+// QSettings keeps a file it has read and reads it again only when its size or its time of
+// change is not what it was: every input's files are written with a time of change of their
+// own, a second after the last input's.
 void save(const QString& path, const std::string& content)
 {
-    QDir().mkpath(QFileInfo(path).path());
+    static qint64 changed = 0;
     QFile file(path);
-    if (file.open(QIODevice::WriteOnly))
-        file.write(content.data(), static_cast<qint64>(content.size()));
+    if (!file.open(QIODevice::WriteOnly))
+        return;
+    file.write(content.data(), static_cast<qint64>(content.size()));
+    file.flush();
+    file.setFileTime(QDateTime::fromSecsSinceEpoch(++changed, Qt::UTC),
+                     QFileDevice::FileModificationTime);
 }
 } // namespace
 
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 {
     FuzzEnvironment::prepare(argc, argv);
+    QDir().mkpath(systemFolder() + QStringLiteral("/Corvane"));
+    RegistryStandIn::useFile(registryFile());
+    QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope, systemFolder());
     return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     FuzzedDataProvider input(data, size);
-    // A new folder for each input: QSettings caches a file it has read by name and time stamp.
-    const QString folder = FuzzEnvironment::freshFolder();
-    const QString registry = folder + QStringLiteral("/registry.ini");
-    save(registry, input.ConsumeRandomLengthString(4096));
-    save(folder + QStringLiteral("/system/Corvane/Quillon.conf"),
+    save(registryFile(), input.ConsumeRandomLengthString(4096));
+    save(systemFolder() + QStringLiteral("/Corvane/Quillon.conf"),
          input.ConsumeRemainingBytesAsString());
-    RegistryStandIn::useFile(registry);
-    QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope,
-                       folder + QStringLiteral("/system"));
 
     CompanionSettings::networkCompanionsDisabled();
     CompanionSettings::collaborationEnabled();

@@ -11,11 +11,23 @@
 #include <CFxUIJsonReader.h>
 #include <CFxUIJsonWriter.h>
 #include <OdError.h>
+#include <sanitizer/lsan_interface.h>
 
 #include <cstddef>
 #include <cstdint>
 
 namespace {
+// Qt 5.15's JSON parser drops the containers it has built when it meets a control character
+// inside a string deep in a document. The fuzz programs record allocation stacks from frame
+// pointers only, which end at the first Qt frame, so no suppression can tell that leak from
+// another: what the parser allocates for the input is left out of the leak check here.
+QJsonDocument parsed(const std::uint8_t* data, std::size_t size)
+{
+    const __lsan::ScopedDisabler qtParserLeaks;
+    return QJsonDocument::fromJson(
+        QByteArray::fromRawData(reinterpret_cast<const char*>(data), static_cast<int>(size)));
+}
+
 QByteArray written(const CFxHostUI& ui)
 {
     return QJsonDocument(CFxUIJsonWriter::write(ui)).toJson(QJsonDocument::Compact);
@@ -30,8 +42,7 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    const QJsonDocument document = QJsonDocument::fromJson(
-        QByteArray::fromRawData(reinterpret_cast<const char*>(data), static_cast<int>(size)));
+    const QJsonDocument document = parsed(data, size);
     if (!document.isObject())
         return 0;
     CFxHostUI first;
