@@ -66,13 +66,16 @@ void CompanionDockWaiter::placeAllWaiting(QMainWindow* window)
 {
     const QList<QObject*> waiters = waitersOf(window);
     // As if each had been added with the window on screen: placed, shown and raised in turn,
-    // then the one asked for last raised again.
+    // then the one asked for last raised again. A window shown only to be drawn lays its dock
+    // tabs out once more after this, which brings the first tab forward: the front one is
+    // raised once more when that is done.
     invoke(waiters, "place");
     const QString front = window->property(kFrontProperty).toString();
     window->setProperty(kFrontProperty, QVariant());
     if (QDockWidget* dock = window->findChild<QDockWidget*>(front)) {
         dock->show();
         dock->raise();
+        QMetaObject::invokeMethod(dock, "raise", Qt::QueuedConnection);
     }
     // Laid out now, the docks behind the front tab stand outside the window: only the docks
     // on screen build their views at once.

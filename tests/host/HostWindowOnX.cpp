@@ -26,13 +26,15 @@ void HostWindowOnX::SetUp()
     m_session = std::make_unique<HostSession>(options);
     m_runner = std::make_unique<ScriptRunner>(*m_session, m_printer);
     m_session->start();
-    m_session->setWindowHandlers([this](const QString& line) { run(line); },
-                                 [this] {
-                                     m_windowGone = true;
-                                     QCoreApplication::quit();
-                                 });
+    if (windowIsTheCommandLine())
+        m_session->setWindowHandlers([this](const QString& line) { run(line); },
+                                     [this] {
+                                         m_windowGone = true;
+                                         QCoreApplication::quit();
+                                     });
     m_session->createMainFrame();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(window()));
+    if (windowIsTheCommandLine())
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window()));
 }
 
 void HostWindowOnX::TearDown()
@@ -45,6 +47,11 @@ void HostWindowOnX::TearDown()
 QStringList HostWindowOnX::startModules() const
 {
     return {QStringLiteral("ExtCommands")};
+}
+
+bool HostWindowOnX::windowIsTheCommandLine() const
+{
+    return true;
 }
 
 HostWindow* HostWindowOnX::window() const

@@ -29,6 +29,9 @@ protected:
 
     // The modules loaded at start.
     virtual QStringList startModules() const;
+    // Whether the window is the session's command line, shown at its creation; without it the
+    // session runs a script, and the window shows when a statement needs it on screen.
+    virtual bool windowIsTheCommandLine() const;
 
     HostWindow* window() const;
     const CFxHostUI& ui() const;

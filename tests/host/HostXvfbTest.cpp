@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QDockWidget>
 #include <QFile>
 #include <QMenuBar>
 #include <QScreen>
@@ -157,6 +158,46 @@ TEST_F(HostWindowOnX, TheCanvasShowsTheDrawingFittedToIt)
     };
     EXPECT_TRUE(drawnNear(40, 80));
     EXPECT_FALSE(drawnNear(40, 20));
+}
+
+// The companions' views wait for the window to show and are then placed in the order they were
+// added: the one added last (the task pane) is the tab in front, as when each is added with the
+// window on screen. The window shows at its creation when it is the command line, and only for
+// a picture when a script runs.
+namespace {
+QStringList companionViewsInFront(const HostWindow& window)
+{
+    QStringList companions;
+    QStringList inFront;
+    for (QDockWidget* dock : window.findChildren<QDockWidget*>()) {
+        if (!dock->property("quillonCompanion").toBool())
+            continue;
+        companions << dock->windowTitle();
+        if (dock->isVisible() && !dock->visibleRegion().isEmpty())
+            inFront << dock->windowTitle();
+    }
+    EXPECT_EQ(companions.size(), 3) << companions.join(QStringLiteral(", ")).toStdString();
+    return inFront;
+}
+} // namespace
+
+TEST_F(HostWindowOnX, TheCompanionViewAddedLastIsTheOneInFront)
+{
+    QTest::qWait(50);
+    EXPECT_EQ(companionViewsInFront(*window()), QStringList{QStringLiteral("Task Pane")});
+}
+
+class HostScriptOnX : public HostWindowOnX
+{
+protected:
+    bool windowIsTheCommandLine() const override { return false; }
+};
+
+TEST_F(HostScriptOnX, TheCompanionViewAddedLastIsTheOneInFrontOfAPicture)
+{
+    run(QStringLiteral("screenshot window.png"));
+    QTest::qWait(50);
+    EXPECT_EQ(companionViewsInFront(*window()), QStringList{QStringLiteral("Task Pane")});
 }
 
 TEST_F(HostWindowOnX, ClosingTheWindowEndsTheSession)
